@@ -1,0 +1,15 @@
+/** @file qorm.h
+ *  All of qorm: small-matrix operations on data where it lies.
+ *  qorm/types.h tells the conventions that all functions share.
+ */
+#ifndef QORM_H
+#define QORM_H
+
+#include "qorm/add.h"
+#include "qorm/eigenvaluessym.h"
+#include "qorm/eigenvaluesvectorssym.h"
+#include "qorm/sub.h"
+#include "qorm/types.h"
+#include "qorm/version.h"
+
+#endif

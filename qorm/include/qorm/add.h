@@ -1,0 +1,314 @@
+/** @file add.h
+ *  Sums of matrices, element by element.
+ *
+ *  Shapes. `width` and `height` are those of the destination. An operand used as stored (`m`, `ma`)
+ *  has the same; an operand used transposed (`t`, `ta`) lies in memory with `width` rows and `height`
+ *  columns. In array forms the destination is an array of `count` matrices and a single operand
+ *  serves every object.
+ *
+ *  Arithmetic. One IEEE addition per element, in the element type; the bits do not depend on the
+ *  path, the layout or the threads. No status but that of a failed check is ever returned.
+ *
+ *  In place. The destination may coincide with an operand used as stored of the same shape and
+ *  strides. A destination that overlaps a transposed operand, or a single operand of an array form,
+ *  is not defined.
+ *
+ *  Layouts, units and statuses: qorm/types.h.
+ */
+#ifndef QORM_ADD_H
+#define QORM_ADD_H
+
+#include "qorm/types.h"
+
+#ifdef __cplusplus
+extern "C" {
+#endif
+
+/** @name Sum of two matrices: dst(i,j) = A(i,j) + B(i,j)
+ *  Checks, in this order: null pointer, size, strides (`_P`: shifts).
+ *  @{ */
+QORM_API qorStatus qormAdd_mm_32f(const float* pSrc1, int32_t src1Stride1, int32_t src1Stride2,
+                                  const float* pSrc2, int32_t src2Stride1, int32_t src2Stride2,
+                                  float* pDst, int32_t dstStride1, int32_t dstStride2,
+                                  int32_t width, int32_t height);
+QORM_API qorStatus qormAdd_mm_32f_P(const float* const* ppSrc1, int32_t src1Shift,
+                                    const float* const* ppSrc2, int32_t src2Shift,
+                                    float* const* ppDst, int32_t dstShift, int32_t width,
+                                    int32_t height);
+QORM_API qorStatus qormAdd_mm_64f(const double* pSrc1, int32_t src1Stride1, int32_t src1Stride2,
+                                  const double* pSrc2, int32_t src2Stride1, int32_t src2Stride2,
+                                  double* pDst, int32_t dstStride1, int32_t dstStride2,
+                                  int32_t width, int32_t height);
+QORM_API qorStatus qormAdd_mm_64f_P(const double* const* ppSrc1, int32_t src1Shift,
+                                    const double* const* ppSrc2, int32_t src2Shift,
+                                    double* const* ppDst, int32_t dstShift, int32_t width,
+                                    int32_t height);
+QORM_API qorStatus qormAdd_tm_32f(const float* pSrc1, int32_t src1Stride1, int32_t src1Stride2,
+                                  const float* pSrc2, int32_t src2Stride1, int32_t src2Stride2,
+                                  float* pDst, int32_t dstStride1, int32_t dstStride2,
+                                  int32_t width, int32_t height);
+QORM_API qorStatus qormAdd_tm_32f_P(const float* const* ppSrc1, int32_t src1Shift,
+                                    const float* const* ppSrc2, int32_t src2Shift,
+                                    float* const* ppDst, int32_t dstShift, int32_t width,
+                                    int32_t height);
+QORM_API qorStatus qormAdd_tm_64f(const double* pSrc1, int32_t src1Stride1, int32_t src1Stride2,
+                                  const double* pSrc2, int32_t src2Stride1, int32_t src2Stride2,
+                                  double* pDst, int32_t dstStride1, int32_t dstStride2,
+                                  int32_t width, int32_t height);
+QORM_API qorStatus qormAdd_tm_64f_P(const double* const* ppSrc1, int32_t src1Shift,
+                                    const double* const* ppSrc2, int32_t src2Shift,
+                                    double* const* ppDst, int32_t dstShift, int32_t width,
+                                    int32_t height);
+QORM_API qorStatus qormAdd_tt_32f(const float* pSrc1, int32_t src1Stride1, int32_t src1Stride2,
+                                  const float* pSrc2, int32_t src2Stride1, int32_t src2Stride2,
+                                  float* pDst, int32_t dstStride1, int32_t dstStride2,
+                                  int32_t width, int32_t height);
+QORM_API qorStatus qormAdd_tt_32f_P(const float* const* ppSrc1, int32_t src1Shift,
+                                    const float* const* ppSrc2, int32_t src2Shift,
+                                    float* const* ppDst, int32_t dstShift, int32_t width,
+                                    int32_t height);
+QORM_API qorStatus qormAdd_tt_64f(const double* pSrc1, int32_t src1Stride1, int32_t src1Stride2,
+                                  const double* pSrc2, int32_t src2Stride1, int32_t src2Stride2,
+                                  double* pDst, int32_t dstStride1, int32_t dstStride2,
+                                  int32_t width, int32_t height);
+QORM_API qorStatus qormAdd_tt_64f_P(const double* const* ppSrc1, int32_t src1Shift,
+                                    const double* const* ppSrc2, int32_t src2Shift,
+                                    double* const* ppDst, int32_t dstShift, int32_t width,
+                                    int32_t height);
+/** @} */
+
+/** @name Sum of each matrix of an array and one matrix: dst_n(i,j) = A_n(i,j) + B(i,j)
+ *  Checks, in this order: null pointer, count, size, strides, shifts (`_P`, `_L`).
+ *  The forms of `mam` without suffix alone test the strides before the size.
+ *  @{ */
+QORM_API qorStatus qormAdd_mam_32f(const float* pSrc1, int32_t src1Stride0, int32_t src1Stride1,
+                                   int32_t src1Stride2, const float* pSrc2, int32_t src2Stride1,
+                                   int32_t src2Stride2, float* pDst, int32_t dstStride0,
+                                   int32_t dstStride1, int32_t dstStride2, int32_t width,
+                                   int32_t height, int32_t count);
+QORM_API qorStatus qormAdd_mam_32f_P(const float* const* ppSrc1, int32_t src1Shift,
+                                     int32_t src1Stride0, const float* const* ppSrc2,
+                                     int32_t src2Shift, float* const* ppDst, int32_t dstShift,
+                                     int32_t dstStride0, int32_t width, int32_t height,
+                                     int32_t count);
+QORM_API qorStatus qormAdd_mam_32f_L(const float* const* ppSrc1, int32_t src1Shift,
+                                     int32_t src1Stride1, int32_t src1Stride2, const float* pSrc2,
+                                     int32_t src2Stride1, int32_t src2Stride2, float* const* ppDst,
+                                     int32_t dstShift, int32_t dstStride1, int32_t dstStride2,
+                                     int32_t width, int32_t height, int32_t count);
+QORM_API qorStatus qormAdd_mam_64f(const double* pSrc1, int32_t src1Stride0, int32_t src1Stride1,
+                                   int32_t src1Stride2, const double* pSrc2, int32_t src2Stride1,
+                                   int32_t src2Stride2, double* pDst, int32_t dstStride0,
+                                   int32_t dstStride1, int32_t dstStride2, int32_t width,
+                                   int32_t height, int32_t count);
+QORM_API qorStatus qormAdd_mam_64f_P(const double* const* ppSrc1, int32_t src1Shift,
+                                     int32_t src1Stride0, const double* const* ppSrc2,
+                                     int32_t src2Shift, double* const* ppDst, int32_t dstShift,
+                                     int32_t dstStride0, int32_t width, int32_t height,
+                                     int32_t count);
+QORM_API qorStatus qormAdd_mam_64f_L(const double* const* ppSrc1, int32_t src1Shift,
+                                     int32_t src1Stride1, int32_t src1Stride2, const double* pSrc2,
+                                     int32_t src2Stride1, int32_t src2Stride2, double* const* ppDst,
+                                     int32_t dstShift, int32_t dstStride1, int32_t dstStride2,
+                                     int32_t width, int32_t height, int32_t count);
+QORM_API qorStatus qormAdd_tam_32f(const float* pSrc1, int32_t src1Stride0, int32_t src1Stride1,
+                                   int32_t src1Stride2, const float* pSrc2, int32_t src2Stride1,
+                                   int32_t src2Stride2, float* pDst, int32_t dstStride0,
+                                   int32_t dstStride1, int32_t dstStride2, int32_t width,
+                                   int32_t height, int32_t count);
+QORM_API qorStatus qormAdd_tam_32f_P(const float* const* ppSrc1, int32_t src1Shift,
+                                     int32_t src1Stride0, const float* const* ppSrc2,
+                                     int32_t src2Shift, float* const* ppDst, int32_t dstShift,
+                                     int32_t dstStride0, int32_t width, int32_t height,
+                                     int32_t count);
+QORM_API qorStatus qormAdd_tam_32f_L(const float* const* ppSrc1, int32_t src1Shift,
+                                     int32_t src1Stride1, int32_t src1Stride2, const float* pSrc2,
+                                     int32_t src2Stride1, int32_t src2Stride2, float* const* ppDst,
+                                     int32_t dstShift, int32_t dstStride1, int32_t dstStride2,
+                                     int32_t width, int32_t height, int32_t count);
+QORM_API qorStatus qormAdd_tam_64f(const double* pSrc1, int32_t src1Stride0, int32_t src1Stride1,
+                                   int32_t src1Stride2, const double* pSrc2, int32_t src2Stride1,
+                                   int32_t src2Stride2, double* pDst, int32_t dstStride0,
+                                   int32_t dstStride1, int32_t dstStride2, int32_t width,
+                                   int32_t height, int32_t count);
+QORM_API qorStatus qormAdd_tam_64f_P(const double* const* ppSrc1, int32_t src1Shift,
+                                     int32_t src1Stride0, const double* const* ppSrc2,
+                                     int32_t src2Shift, double* const* ppDst, int32_t dstShift,
+                                     int32_t dstStride0, int32_t width, int32_t height,
+                                     int32_t count);
+QORM_API qorStatus qormAdd_tam_64f_L(const double* const* ppSrc1, int32_t src1Shift,
+                                     int32_t src1Stride1, int32_t src1Stride2, const double* pSrc2,
+                                     int32_t src2Stride1, int32_t src2Stride2, double* const* ppDst,
+                                     int32_t dstShift, int32_t dstStride1, int32_t dstStride2,
+                                     int32_t width, int32_t height, int32_t count);
+QORM_API qorStatus qormAdd_mat_32f(const float* pSrc1, int32_t src1Stride0, int32_t src1Stride1,
+                                   int32_t src1Stride2, const float* pSrc2, int32_t src2Stride1,
+                                   int32_t src2Stride2, float* pDst, int32_t dstStride0,
+                                   int32_t dstStride1, int32_t dstStride2, int32_t width,
+                                   int32_t height, int32_t count);
+QORM_API qorStatus qormAdd_mat_32f_P(const float* const* ppSrc1, int32_t src1Shift,
+                                     int32_t src1Stride0, const float* const* ppSrc2,
+                                     int32_t src2Shift, float* const* ppDst, int32_t dstShift,
+                                     int32_t dstStride0, int32_t width, int32_t height,
+                                     int32_t count);
+QORM_API qorStatus qormAdd_mat_32f_L(const float* const* ppSrc1, int32_t src1Shift,
+                                     int32_t src1Stride1, int32_t src1Stride2, const float* pSrc2,
+                                     int32_t src2Stride1, int32_t src2Stride2, float* const* ppDst,
+                                     int32_t dstShift, int32_t dstStride1, int32_t dstStride2,
+                                     int32_t width, int32_t height, int32_t count);
+QORM_API qorStatus qormAdd_mat_64f(const double* pSrc1, int32_t src1Stride0, int32_t src1Stride1,
+                                   int32_t src1Stride2, const double* pSrc2, int32_t src2Stride1,
+                                   int32_t src2Stride2, double* pDst, int32_t dstStride0,
+                                   int32_t dstStride1, int32_t dstStride2, int32_t width,
+                                   int32_t height, int32_t count);
+QORM_API qorStatus qormAdd_mat_64f_P(const double* const* ppSrc1, int32_t src1Shift,
+                                     int32_t src1Stride0, const double* const* ppSrc2,
+                                     int32_t src2Shift, double* const* ppDst, int32_t dstShift,
+                                     int32_t dstStride0, int32_t width, int32_t height,
+                                     int32_t count);
+QORM_API qorStatus qormAdd_mat_64f_L(const double* const* ppSrc1, int32_t src1Shift,
+                                     int32_t src1Stride1, int32_t src1Stride2, const double* pSrc2,
+                                     int32_t src2Stride1, int32_t src2Stride2, double* const* ppDst,
+                                     int32_t dstShift, int32_t dstStride1, int32_t dstStride2,
+                                     int32_t width, int32_t height, int32_t count);
+QORM_API qorStatus qormAdd_tat_32f(const float* pSrc1, int32_t src1Stride0, int32_t src1Stride1,
+                                   int32_t src1Stride2, const float* pSrc2, int32_t src2Stride1,
+                                   int32_t src2Stride2, float* pDst, int32_t dstStride0,
+                                   int32_t dstStride1, int32_t dstStride2, int32_t width,
+                                   int32_t height, int32_t count);
+QORM_API qorStatus qormAdd_tat_32f_P(const float* const* ppSrc1, int32_t src1Shift,
+                                     int32_t src1Stride0, const float* const* ppSrc2,
+                                     int32_t src2Shift, float* const* ppDst, int32_t dstShift,
+                                     int32_t dstStride0, int32_t width, int32_t height,
+                                     int32_t count);
+QORM_API qorStatus qormAdd_tat_32f_L(const float* const* ppSrc1, int32_t src1Shift,
+                                     int32_t src1Stride1, int32_t src1Stride2, const float* pSrc2,
+                                     int32_t src2Stride1, int32_t src2Stride2, float* const* ppDst,
+                                     int32_t dstShift, int32_t dstStride1, int32_t dstStride2,
+                                     int32_t width, int32_t height, int32_t count);
+QORM_API qorStatus qormAdd_tat_64f(const double* pSrc1, int32_t src1Stride0, int32_t src1Stride1,
+                                   int32_t src1Stride2, const double* pSrc2, int32_t src2Stride1,
+                                   int32_t src2Stride2, double* pDst, int32_t dstStride0,
+                                   int32_t dstStride1, int32_t dstStride2, int32_t width,
+                                   int32_t height, int32_t count);
+QORM_API qorStatus qormAdd_tat_64f_P(const double* const* ppSrc1, int32_t src1Shift,
+                                     int32_t src1Stride0, const double* const* ppSrc2,
+                                     int32_t src2Shift, double* const* ppDst, int32_t dstShift,
+                                     int32_t dstStride0, int32_t width, int32_t height,
+                                     int32_t count);
+QORM_API qorStatus qormAdd_tat_64f_L(const double* const* ppSrc1, int32_t src1Shift,
+                                     int32_t src1Stride1, int32_t src1Stride2, const double* pSrc2,
+                                     int32_t src2Stride1, int32_t src2Stride2, double* const* ppDst,
+                                     int32_t dstShift, int32_t dstStride1, int32_t dstStride2,
+                                     int32_t width, int32_t height, int32_t count);
+/** @} */
+
+/** @name Sum of two arrays, object by object: dst_n(i,j) = A_n(i,j) + B_n(i,j)
+ *  Checks, in this order: null pointer, count, size, strides, shifts (`_P`, `_L`).
+ *  @{ */
+QORM_API qorStatus qormAdd_mama_32f(const float* pSrc1, int32_t src1Stride0, int32_t src1Stride1,
+                                    int32_t src1Stride2, const float* pSrc2, int32_t src2Stride0,
+                                    int32_t src2Stride1, int32_t src2Stride2, float* pDst,
+                                    int32_t dstStride0, int32_t dstStride1, int32_t dstStride2,
+                                    int32_t width, int32_t height, int32_t count);
+QORM_API qorStatus qormAdd_mama_32f_P(const float* const* ppSrc1, int32_t src1Shift,
+                                      int32_t src1Stride0, const float* const* ppSrc2,
+                                      int32_t src2Shift, int32_t src2Stride0, float* const* ppDst,
+                                      int32_t dstShift, int32_t dstStride0, int32_t width,
+                                      int32_t height, int32_t count);
+QORM_API qorStatus qormAdd_mama_32f_L(const float* const* ppSrc1, int32_t src1Shift,
+                                      int32_t src1Stride1, int32_t src1Stride2,
+                                      const float* const* ppSrc2, int32_t src2Shift,
+                                      int32_t src2Stride1, int32_t src2Stride2, float* const* ppDst,
+                                      int32_t dstShift, int32_t dstStride1, int32_t dstStride2,
+                                      int32_t width, int32_t height, int32_t count);
+QORM_API qorStatus qormAdd_mama_64f(const double* pSrc1, int32_t src1Stride0, int32_t src1Stride1,
+                                    int32_t src1Stride2, const double* pSrc2, int32_t src2Stride0,
+                                    int32_t src2Stride1, int32_t src2Stride2, double* pDst,
+                                    int32_t dstStride0, int32_t dstStride1, int32_t dstStride2,
+                                    int32_t width, int32_t height, int32_t count);
+QORM_API qorStatus qormAdd_mama_64f_P(const double* const* ppSrc1, int32_t src1Shift,
+                                      int32_t src1Stride0, const double* const* ppSrc2,
+                                      int32_t src2Shift, int32_t src2Stride0, double* const* ppDst,
+                                      int32_t dstShift, int32_t dstStride0, int32_t width,
+                                      int32_t height, int32_t count);
+QORM_API qorStatus qormAdd_mama_64f_L(const double* const* ppSrc1, int32_t src1Shift,
+                                      int32_t src1Stride1, int32_t src1Stride2,
+                                      const double* const* ppSrc2, int32_t src2Shift,
+                                      int32_t src2Stride1, int32_t src2Stride2,
+                                      double* const* ppDst, int32_t dstShift, int32_t dstStride1,
+                                      int32_t dstStride2, int32_t width, int32_t height,
+                                      int32_t count);
+QORM_API qorStatus qormAdd_tama_32f(const float* pSrc1, int32_t src1Stride0, int32_t src1Stride1,
+                                    int32_t src1Stride2, const float* pSrc2, int32_t src2Stride0,
+                                    int32_t src2Stride1, int32_t src2Stride2, float* pDst,
+                                    int32_t dstStride0, int32_t dstStride1, int32_t dstStride2,
+                                    int32_t width, int32_t height, int32_t count);
+QORM_API qorStatus qormAdd_tama_32f_P(const float* const* ppSrc1, int32_t src1Shift,
+                                      int32_t src1Stride0, const float* const* ppSrc2,
+                                      int32_t src2Shift, int32_t src2Stride0, float* const* ppDst,
+                                      int32_t dstShift, int32_t dstStride0, int32_t width,
+                                      int32_t height, int32_t count);
+QORM_API qorStatus qormAdd_tama_32f_L(const float* const* ppSrc1, int32_t src1Shift,
+                                      int32_t src1Stride1, int32_t src1Stride2,
+                                      const float* const* ppSrc2, int32_t src2Shift,
+                                      int32_t src2Stride1, int32_t src2Stride2, float* const* ppDst,
+                                      int32_t dstShift, int32_t dstStride1, int32_t dstStride2,
+                                      int32_t width, int32_t height, int32_t count);
+QORM_API qorStatus qormAdd_tama_64f(const double* pSrc1, int32_t src1Stride0, int32_t src1Stride1,
+                                    int32_t src1Stride2, const double* pSrc2, int32_t src2Stride0,
+                                    int32_t src2Stride1, int32_t src2Stride2, double* pDst,
+                                    int32_t dstStride0, int32_t dstStride1, int32_t dstStride2,
+                                    int32_t width, int32_t height, int32_t count);
+QORM_API qorStatus qormAdd_tama_64f_P(const double* const* ppSrc1, int32_t src1Shift,
+                                      int32_t src1Stride0, const double* const* ppSrc2,
+                                      int32_t src2Shift, int32_t src2Stride0, double* const* ppDst,
+                                      int32_t dstShift, int32_t dstStride0, int32_t width,
+                                      int32_t height, int32_t count);
+QORM_API qorStatus qormAdd_tama_64f_L(const double* const* ppSrc1, int32_t src1Shift,
+                                      int32_t src1Stride1, int32_t src1Stride2,
+                                      const double* const* ppSrc2, int32_t src2Shift,
+                                      int32_t src2Stride1, int32_t src2Stride2,
+                                      double* const* ppDst, int32_t dstShift, int32_t dstStride1,
+                                      int32_t dstStride2, int32_t width, int32_t height,
+                                      int32_t count);
+QORM_API qorStatus qormAdd_tata_32f(const float* pSrc1, int32_t src1Stride0, int32_t src1Stride1,
+                                    int32_t src1Stride2, const float* pSrc2, int32_t src2Stride0,
+                                    int32_t src2Stride1, int32_t src2Stride2, float* pDst,
+                                    int32_t dstStride0, int32_t dstStride1, int32_t dstStride2,
+                                    int32_t width, int32_t height, int32_t count);
+QORM_API qorStatus qormAdd_tata_32f_P(const float* const* ppSrc1, int32_t src1Shift,
+                                      int32_t src1Stride0, const float* const* ppSrc2,
+                                      int32_t src2Shift, int32_t src2Stride0, float* const* ppDst,
+                                      int32_t dstShift, int32_t dstStride0, int32_t width,
+                                      int32_t height, int32_t count);
+QORM_API qorStatus qormAdd_tata_32f_L(const float* const* ppSrc1, int32_t src1Shift,
+                                      int32_t src1Stride1, int32_t src1Stride2,
+                                      const float* const* ppSrc2, int32_t src2Shift,
+                                      int32_t src2Stride1, int32_t src2Stride2, float* const* ppDst,
+                                      int32_t dstShift, int32_t dstStride1, int32_t dstStride2,
+                                      int32_t width, int32_t height, int32_t count);
+QORM_API qorStatus qormAdd_tata_64f(const double* pSrc1, int32_t src1Stride0, int32_t src1Stride1,
+                                    int32_t src1Stride2, const double* pSrc2, int32_t src2Stride0,
+                                    int32_t src2Stride1, int32_t src2Stride2, double* pDst,
+                                    int32_t dstStride0, int32_t dstStride1, int32_t dstStride2,
+                                    int32_t width, int32_t height, int32_t count);
+QORM_API qorStatus qormAdd_tata_64f_P(const double* const* ppSrc1, int32_t src1Shift,
+                                      int32_t src1Stride0, const double* const* ppSrc2,
+                                      int32_t src2Shift, int32_t src2Stride0, double* const* ppDst,
+                                      int32_t dstShift, int32_t dstStride0, int32_t width,
+                                      int32_t height, int32_t count);
+QORM_API qorStatus qormAdd_tata_64f_L(const double* const* ppSrc1, int32_t src1Shift,
+                                      int32_t src1Stride1, int32_t src1Stride2,
+                                      const double* const* ppSrc2, int32_t src2Shift,
+                                      int32_t src2Stride1, int32_t src2Stride2,
+                                      double* const* ppDst, int32_t dstShift, int32_t dstStride1,
+                                      int32_t dstStride2, int32_t width, int32_t height,
+                                      int32_t count);
+/** @} */
+
+#ifdef __cplusplus
+}
+#endif
+
+#endif

@@ -1,0 +1,6 @@
+// Cores: eigenvalues of a symmetric matrix.
+#include "eigen/eigen.h"
+#include "frame/cores.h"
+#include "qorm/eigenvaluessym.h"
+
+#include "eigen/qormeigenvaluessym_m.def"

@@ -1,0 +1,6 @@
+// Entry functions: eigenvalues and eigenvectors of a symmetric matrix.
+#include "eigen/eigen.h"
+#include "frame/entries.h"
+#include "qorm/eigenvaluesvectorssym.h"
+
+#include "eigen/qormeigenvaluesvectorssym_m.def"

@@ -1,0 +1,6 @@
+// Entry functions: sums of an array with a single matrix.
+#include "elementwise/sums.h"
+#include "frame/entries.h"
+#include "qorm/add.h"
+
+#include "elementwise/qormadd_mam.def"

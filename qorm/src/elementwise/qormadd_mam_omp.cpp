@@ -1,0 +1,6 @@
+// Fan-out drivers: sums of an array with a single matrix.
+#include "elementwise/sums.h"
+#include "frame/drivers.h"
+#include "qorm/add.h"
+
+#include "elementwise/qormadd_mam.def"

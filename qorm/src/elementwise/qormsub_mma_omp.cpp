@@ -1,0 +1,6 @@
+// Fan-out drivers: differences of a single matrix with an array.
+#include "elementwise/sums.h"
+#include "frame/drivers.h"
+#include "qorm/sub.h"
+
+#include "elementwise/qormsub_mma.def"

@@ -1,0 +1,6 @@
+// Cores: differences of a single matrix with an array.
+#include "elementwise/sums.h"
+#include "frame/cores.h"
+#include "qorm/sub.h"
+
+#include "elementwise/qormsub_mma.def"

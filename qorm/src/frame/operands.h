@@ -1,0 +1,273 @@
+// The arguments of an operation, in groups. A function's parameter list is a sequence of groups:
+// operands in one of the three layouts, plain results, scratch, sizes, the count. Every tier of
+// every function works on these groups; nothing else in the library knows how a layout is passed.
+//
+// Each group tells whether it is faulty, turns into its contiguous self, takes the share of a
+// thread, and unpacks into the C arguments that it came from.
+#pragma once
+
+#include "frame/elements.h"
+#include "qorm/types.h"
+
+#include <cstdint>
+#include <limits>
+#include <tuple>
+
+namespace qorm {
+
+// An operand's letters in a shape.
+enum class Kind { m, t, ma, ta };
+
+constexpr bool isArray(Kind kind) {
+    return kind == Kind::ma || kind == Kind::ta;
+}
+constexpr bool isTransposed(Kind kind) {
+    return kind == Kind::t || kind == Kind::ta;
+}
+
+enum class Layout { S, P, L };
+
+// What one thread of a fan-out works on.
+struct Share {
+    int thread;
+    int first; // object
+    int count;
+    char* scratch; // of all threads
+};
+
+template <class T>
+constexpr bool isMultipleOfElement(std::int32_t bytes) {
+    return bytes % static_cast<std::int32_t>(sizeof(T)) == 0;
+}
+
+template <class T>
+constexpr bool isBadStride(std::int32_t stride) {
+    return !isMultipleOfElement<T>(stride) || stride < 1;
+}
+
+template <class T>
+constexpr bool isBadShift(std::int32_t shift) {
+    return !isMultipleOfElement<T>(shift) || shift < 0;
+}
+
+// What holds for a group unless it says otherwise. Rows are adjacent if they follow one another
+// without a gap, objects of so many elements likewise; objects lie side by side if the elements of
+// each position do.
+struct Group {
+    bool isNull() const { return false; }
+    bool hasBadSize() const { return false; }
+    bool hasBadCount() const { return false; }
+    bool hasBadStride() const { return false; }
+    bool hasBadShift() const { return false; }
+    bool isContiguous() const { return true; }
+    bool canStep(int) const { return true; }
+    bool hasAdjacentRows(std::ptrdiff_t) const { return false; }
+    bool hasAdjacentObjects(std::ptrdiff_t) const { return false; }
+    bool hasObjectsSideBySide() const { return false; }
+    std::size_t scratchBytes() const { return 0; }
+    std::tuple<> sizes() const { return {}; }
+};
+
+// A matrix or an array of matrices by strides. A single matrix has no stride0.
+template <class T, bool array, bool contiguousRows>
+struct Strided : Group {
+    using Element = T;
+
+    T* base;
+    std::int32_t stride0;
+    std::int32_t stride1;
+    std::int32_t stride2;
+
+    Strided(T* p, std::int32_t s0, std::int32_t s1, std::int32_t s2)
+        : base(p), stride0(s0), stride1(s1), stride2(s2) {}
+
+    bool isNull() const { return base == nullptr; }
+    bool hasBadStride() const {
+        return (array && isBadStride<T>(stride0)) || isBadStride<T>(stride1) ||
+               isBadStride<T>(stride2);
+    }
+    bool isContiguous() const { return stride2 == static_cast<std::int32_t>(sizeof(T)); }
+
+    bool hasAdjacentRows(std::ptrdiff_t columns) const {
+        return contiguousRows && stride1 == columns * std::ptrdiff_t{sizeof(T)};
+    }
+    bool hasAdjacentObjects(std::ptrdiff_t elements) const {
+        return array && stride0 == elements * std::ptrdiff_t{sizeof(T)};
+    }
+
+    Strided<T, array, true> contiguous() const { return {base, stride0, stride1, stride2}; }
+    Strided share(const Share& share) const { return {at(share.first), stride0, stride1, stride2}; }
+
+    auto arguments() const {
+        if constexpr (array && contiguousRows)
+            return std::tuple(base, stride0, stride1);
+        else if constexpr (array)
+            return std::tuple(base, stride0, stride1, stride2);
+        else if constexpr (contiguousRows)
+            return std::tuple(base, stride1);
+        else
+            return std::tuple(base, stride1, stride2);
+    }
+
+    StridedMatrix<T, contiguousRows> object(std::ptrdiff_t n, std::ptrdiff_t /*columns*/) const {
+        return {at(n), stride1, stride2};
+    }
+
+private:
+    T* at(std::ptrdiff_t n) const { return array ? stepped(base, n * stride0) : base; }
+};
+
+// A matrix or an array of matrices by a table of element addresses.
+template <class T, bool array>
+struct Pointers : Group {
+    using Element = T;
+
+    T* const* table;
+    std::int32_t shift;
+    std::int32_t stride0;
+
+    Pointers(T* const* pp, std::int32_t byteShift, std::int32_t s0)
+        : table(pp), shift(byteShift), stride0(s0) {}
+
+    bool isNull() const { return table == nullptr; }
+    bool hasBadStride() const { return array && isBadStride<T>(stride0); }
+    bool hasBadShift() const { return isBadShift<T>(shift); }
+    // A thread's share begins at a larger shift, which has to fit its 32 bits.
+    bool canStep(int count) const {
+        return !array ||
+               shift + std::int64_t{count} * stride0 <= std::numeric_limits<std::int32_t>::max();
+    }
+
+    bool hasObjectsSideBySide() const {
+        return !array || stride0 == static_cast<std::int32_t>(sizeof(T));
+    }
+
+    Pointers contiguous() const { return *this; }
+    Pointers share(const Share& share) const {
+        return {table, array ? shift + share.first * stride0 : shift, stride0};
+    }
+
+    auto arguments() const {
+        if constexpr (array)
+            return std::tuple(table, shift, stride0);
+        else
+            return std::tuple(table, shift);
+    }
+
+    TabledMatrix<T> object(std::ptrdiff_t n, std::ptrdiff_t columns) const {
+        return {table, columns, array ? shift + n * stride0 : shift};
+    }
+};
+
+// An array of matrices by a table of object addresses.
+template <class T, bool contiguousRows>
+struct List : Group {
+    using Element = T;
+
+    T* const* table;
+    std::int32_t shift;
+    std::int32_t stride1;
+    std::int32_t stride2;
+
+    List(T* const* pp, std::int32_t byteShift, std::int32_t s1, std::int32_t s2)
+        : table(pp), shift(byteShift), stride1(s1), stride2(s2) {}
+
+    bool isNull() const { return table == nullptr; }
+    bool hasBadStride() const { return isBadStride<T>(stride1) || isBadStride<T>(stride2); }
+    bool hasBadShift() const { return isBadShift<T>(shift); }
+    bool isContiguous() const { return stride2 == static_cast<std::int32_t>(sizeof(T)); }
+
+    bool hasAdjacentRows(std::ptrdiff_t columns) const {
+        return contiguousRows && stride1 == columns * std::ptrdiff_t{sizeof(T)};
+    }
+
+    List<T, true> contiguous() const { return {table, shift, stride1, stride2}; }
+    List share(const Share& share) const { return {table + share.first, shift, stride1, stride2}; }
+
+    auto arguments() const {
+        if constexpr (contiguousRows)
+            return std::tuple(table, shift, stride1);
+        else
+            return std::tuple(table, shift, stride1, stride2);
+    }
+
+    StridedMatrix<T, contiguousRows> object(std::ptrdiff_t n, std::ptrdiff_t /*columns*/) const {
+        return {stepped(table[n], shift), stride1, stride2};
+    }
+};
+
+// A plain array of results, `elements` per object.
+template <class T>
+struct Plain : Group {
+    T* base;
+    std::int32_t elements;
+
+    Plain(T* p, std::int32_t perObject) : base(p), elements(perObject) {}
+
+    bool isNull() const { return base == nullptr; }
+
+    Plain contiguous() const { return *this; }
+    Plain share(const Share& share) const { return {object(share.first).base, elements}; }
+    auto arguments() const { return std::tuple(base); }
+
+    Run<T> object(std::ptrdiff_t n) const {
+        return {stepped(base, n * elements * std::ptrdiff_t{sizeof(T)})};
+    }
+};
+
+// Scratch of rows * columns elements for one object at a time. The threads of a fan-out get a slice
+// each of a block that the driver allocates.
+template <class T>
+struct Scratch : Group {
+    T* base;
+    std::int32_t rows;
+    std::int32_t columns;
+
+    Scratch(T* p, std::int32_t r, std::int32_t c) : base(p), rows(r), columns(c) {}
+
+    bool isNull() const { return base == nullptr; }
+    std::size_t scratchBytes() const {
+        return sizeof(T) * static_cast<std::size_t>(rows) * static_cast<std::size_t>(columns);
+    }
+
+    Scratch contiguous() const { return *this; }
+    Scratch share(const Share& share) const {
+        char* slice = share.scratch + static_cast<std::size_t>(share.thread) * scratchBytes();
+        return {reinterpret_cast<T*>(slice), rows, columns};
+    }
+    auto arguments() const { return std::tuple(base); }
+};
+
+struct Size : Group {
+    std::int32_t value;
+
+    explicit Size(std::int32_t size) : value(size) {}
+
+    bool hasBadSize() const { return value < 1; }
+    std::tuple<std::uint32_t> sizes() const { return {static_cast<std::uint32_t>(value)}; }
+
+    Size contiguous() const { return *this; }
+    Size share(const Share&) const { return *this; }
+    auto arguments() const { return std::tuple(value); }
+};
+
+struct Count : Group {
+    std::int32_t value;
+
+    explicit Count(std::int32_t count) : value(count) {}
+
+    bool hasBadCount() const { return value < 1; }
+    std::tuple<std::uint32_t> sizes() const { return {static_cast<std::uint32_t>(value)}; }
+
+    Count contiguous() const { return *this; }
+    Count share(const Share& share) const { return Count(share.count); }
+    auto arguments() const { return std::tuple(value); }
+};
+
+// Calls a function of the C interface with the arguments that the groups stand for.
+template <class Function, class... Groups>
+qorStatus call(Function* function, const Groups&... groups) {
+    return std::apply(function, std::tuple_cat(groups.arguments()...));
+}
+
+} // namespace qorm

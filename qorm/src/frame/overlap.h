@@ -1,0 +1,159 @@
+// Whether operands share memory in a way that makes the order of reads and writes visible. Kernels
+// that leave the order of the contract (objects, rows, columns ascending) ask here first.
+#pragma once
+
+#include "frame/operands.h"
+
+#include <algorithm>
+#include <cstdint>
+
+namespace qorm {
+
+// Bytes [begin, end) of memory.
+struct Bytes {
+    std::uintptr_t begin;
+    std::uintptr_t end;
+};
+
+inline bool overlap(Bytes a, Bytes b) {
+    return a.begin < b.end && b.begin < a.end;
+}
+inline Bytes hullOf(Bytes a, Bytes b) {
+    return {std::min(a.begin, b.begin), std::max(a.end, b.end)};
+}
+
+template <class T>
+Bytes bytesOf(const T* base, std::ptrdiff_t bytes) {
+    const auto begin = reinterpret_cast<std::uintptr_t>(base);
+    return {begin, begin + static_cast<std::uintptr_t>(bytes)};
+}
+
+// The bytes that each object of an operand spans. Objects at a constant stride:
+struct RegularSpans {
+    Bytes object0;
+    std::ptrdiff_t stride0;
+
+    Bytes operator()(std::ptrdiff_t n) const {
+        const auto step = static_cast<std::uintptr_t>(n * stride0);
+        return {object0.begin + step, object0.end + step};
+    }
+};
+
+// Objects of a list:
+template <class T>
+struct ListSpans {
+    T* const* table;
+    std::ptrdiff_t shift;
+    std::ptrdiff_t bytes;
+
+    Bytes operator()(std::ptrdiff_t n) const { return bytesOf(stepped(table[n], shift), bytes); }
+};
+
+template <class T>
+std::ptrdiff_t spanOfMatrix(std::ptrdiff_t stride1, std::ptrdiff_t stride2, std::ptrdiff_t rows,
+                            std::ptrdiff_t columns) {
+    return (rows - 1) * stride1 + (columns - 1) * stride2 + std::ptrdiff_t{sizeof(T)};
+}
+
+template <class T, bool array, bool contiguousRows>
+RegularSpans spansOf(const Strided<T, array, contiguousRows>& operand, std::ptrdiff_t rows,
+                     std::ptrdiff_t columns) {
+    const std::ptrdiff_t bytes = spanOfMatrix<T>(operand.stride1, operand.stride2, rows, columns);
+    return {bytesOf(operand.base, bytes), operand.stride0};
+}
+
+template <class T, bool array>
+RegularSpans spansOf(const Pointers<T, array>& operand, std::ptrdiff_t rows,
+                     std::ptrdiff_t columns) {
+    const auto [lowest, highest] =
+        std::minmax_element(operand.table, operand.table + rows * columns);
+    const Bytes object0 = {bytesOf(stepped(*lowest, operand.shift), sizeof(T)).begin,
+                           bytesOf(stepped(*highest, operand.shift), sizeof(T)).end};
+    return {object0, operand.stride0};
+}
+
+template <class T, bool contiguousRows>
+ListSpans<T> spansOf(const List<T, contiguousRows>& operand, std::ptrdiff_t rows,
+                     std::ptrdiff_t columns) {
+    return {operand.table, operand.shift,
+            spanOfMatrix<T>(operand.stride1, operand.stride2, rows, columns)};
+}
+
+template <class T>
+RegularSpans spansOf(const Plain<T>& runs) {
+    const std::ptrdiff_t bytes = runs.elements * std::ptrdiff_t{sizeof(T)};
+    return {bytesOf(runs.base, bytes), bytes};
+}
+
+// The bytes that objects first .. first + live - 1 span together.
+inline Bytes spanOfAll(const RegularSpans& spans, std::ptrdiff_t first, int live) {
+    return hullOf(spans(first), spans(first + live - 1));
+}
+
+template <class T>
+Bytes spanOfAll(const ListSpans<T>& spans, std::ptrdiff_t first, int live) {
+    Bytes all = spans(first);
+    for (int k = 1; k < live; ++k) all = hullOf(all, spans(first + k));
+    return all;
+}
+
+// Whether all objects first .. first + live - 1 may be read before the first of them is written: no
+// object is written over one that stands behind it.
+template <class Reads, class Writes>
+bool mayReadAhead(const Reads& reads, const Writes& writes, std::ptrdiff_t first, int live) {
+    if (!overlap(spanOfAll(reads, first, live), spanOfAll(writes, first, live))) return true;
+    int writers = live;
+    if constexpr (std::is_same_v<Reads, RegularSpans> && std::is_same_v<Writes, RegularSpans>) {
+        // At equal strides what holds for the first object holds for all.
+        if (reads.stride0 == writes.stride0) writers = 1;
+    }
+    for (int written = 0; written < writers; ++written) {
+        for (int read = written + 1; read < live; ++read) {
+            if (overlap(reads(first + read), writes(first + written))) return false;
+        }
+    }
+    return true;
+}
+
+// Whether the elements of one object surely lie apart from each other, so that the order in which
+// they are written does not show.
+template <class Operand>
+bool hasDistinctElements(const Operand& operand, std::ptrdiff_t rows, std::ptrdiff_t columns) {
+    return operand.stride1 >= columns * operand.stride2 ||
+           operand.stride2 >= rows * operand.stride1;
+}
+
+template <class T, bool array>
+bool hasDistinctElements(const Pointers<T, array>& operand, std::ptrdiff_t rows,
+                         std::ptrdiff_t columns) {
+    constexpr std::ptrdiff_t most = 256;
+    if (rows * columns > most) return false;
+    T* sorted[most];
+    T** const end = std::copy(operand.table, operand.table + rows * columns, sorted);
+    std::sort(sorted, end);
+    return std::adjacent_find(sorted, end, [](T* lower, T* upper) {
+               return stepped(lower, sizeof(T)) > upper;
+           }) == end;
+}
+
+// For matrices whose objects lie side by side: whether writing all objects of one position of `dst`
+// leaves every other position of `src` alone. `srcCount` is 1 for a single matrix.
+template <class Src, class Dst>
+bool positionsAreIndependent(const Src& src, std::ptrdiff_t srcCount, const Dst& dst,
+                             std::ptrdiff_t width, std::ptrdiff_t height, std::ptrdiff_t count) {
+    constexpr std::ptrdiff_t elementSize{sizeof(*src(0, 0).address())};
+    for (std::ptrdiff_t position = 0; position < width * height; ++position) {
+        const Bytes written =
+            bytesOf(dst(position / width, position % width).address(), count * elementSize);
+        for (std::ptrdiff_t other = 0; other < width * height; ++other) {
+            const Bytes read =
+                bytesOf(src(other / width, other % width).address(), srcCount * elementSize);
+            const bool inPlace =
+                position == other && srcCount == count && read.begin == written.begin;
+            if (overlap(read, written) && !inPlace) return false;
+        }
+    }
+    return true;
+}
+
+} // namespace qorm

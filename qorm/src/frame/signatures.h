@@ -1,0 +1,85 @@
+// Parameter lists of the C interface, written once and pasted where a tier needs them.
+//
+// PARAM_<kind>_<access>(T, Name, name) is the C parameters of one group, and GROUP_<kind>_<access>
+// the group that these parameters stand for. Kinds are the letters of a shape. Access is the layout
+// S, P or L as an entry function takes it, or C and LC, the standard and list layouts of contiguous
+// rows as their cores take them, without the element strides. In list layout a single operand is
+// passed as in the standard layout.
+#pragma once
+
+#include "frame/operands.h"
+
+#define QORM_TYPE_32f float
+#define QORM_TYPE_64f double
+
+#define PARAM_m_S(T, Name, name) T *p##Name, std::int32_t name##Stride1, std::int32_t name##Stride2
+#define PARAM_m_C(T, Name, name) T *p##Name, std::int32_t name##Stride1
+#define PARAM_m_P(T, Name, name) T *const *pp##Name, std::int32_t name##Shift
+#define PARAM_m_L(T, Name, name) PARAM_m_S(T, Name, name)
+#define PARAM_m_LC(T, Name, name) PARAM_m_C(T, Name, name)
+
+#define PARAM_ma_S(T, Name, name) \
+    T *p##Name, std::int32_t name##Stride0, std::int32_t name##Stride1, std::int32_t name##Stride2
+#define PARAM_ma_C(T, Name, name) T *p##Name, std::int32_t name##Stride0, std::int32_t name##Stride1
+#define PARAM_ma_P(T, Name, name) \
+    T *const *pp##Name, std::int32_t name##Shift, std::int32_t name##Stride0
+#define PARAM_ma_L(T, Name, name) \
+    T *const *pp##Name, std::int32_t name##Shift, std::int32_t name##Stride1, \
+        std::int32_t name##Stride2
+#define PARAM_ma_LC(T, Name, name) \
+    T *const *pp##Name, std::int32_t name##Shift, std::int32_t name##Stride1
+
+#define GROUP_m_S(T, Name, name) \
+    qorm::Strided<T, false, false>(p##Name, 0, name##Stride1, name##Stride2)
+#define GROUP_m_C(T, Name, name) qorm::Strided<T, false, true>(p##Name, 0, name##Stride1, sizeof(T))
+#define GROUP_m_P(T, Name, name) qorm::Pointers<T, false>(pp##Name, name##Shift, 0)
+#define GROUP_m_L(T, Name, name) GROUP_m_S(T, Name, name)
+#define GROUP_m_LC(T, Name, name) GROUP_m_C(T, Name, name)
+
+#define GROUP_ma_S(T, Name, name) \
+    qorm::Strided<T, true, false>(p##Name, name##Stride0, name##Stride1, name##Stride2)
+#define GROUP_ma_C(T, Name, name) \
+    qorm::Strided<T, true, true>(p##Name, name##Stride0, name##Stride1, sizeof(T))
+#define GROUP_ma_P(T, Name, name) qorm::Pointers<T, true>(pp##Name, name##Shift, name##Stride0)
+#define GROUP_ma_L(T, Name, name) \
+    qorm::List<T, false>(pp##Name, name##Shift, name##Stride1, name##Stride2)
+#define GROUP_ma_LC(T, Name, name) \
+    qorm::List<T, true>(pp##Name, name##Shift, name##Stride1, sizeof(T))
+
+// An operand read transposed is passed like one read as stored.
+#define PARAM_t_S PARAM_m_S
+#define PARAM_t_C PARAM_m_C
+#define PARAM_t_P PARAM_m_P
+#define PARAM_t_L PARAM_m_L
+#define PARAM_t_LC PARAM_m_LC
+#define PARAM_ta_S PARAM_ma_S
+#define PARAM_ta_C PARAM_ma_C
+#define PARAM_ta_P PARAM_ma_P
+#define PARAM_ta_L PARAM_ma_L
+#define PARAM_ta_LC PARAM_ma_LC
+#define GROUP_t_S GROUP_m_S
+#define GROUP_t_C GROUP_m_C
+#define GROUP_t_P GROUP_m_P
+#define GROUP_t_L GROUP_m_L
+#define GROUP_t_LC GROUP_m_LC
+#define GROUP_ta_S GROUP_ma_S
+#define GROUP_ta_C GROUP_ma_C
+#define GROUP_ta_P GROUP_ma_P
+#define GROUP_ta_L GROUP_ma_L
+#define GROUP_ta_LC GROUP_ma_LC
+
+// The sizes behind the operands; array forms, whose destination is `ma`, end with the count.
+#define PARAM_width_height_m std::int32_t width, std::int32_t height
+#define PARAM_width_height_ma PARAM_width_height_m, std::int32_t count
+#define PARAM_widthHeight_m std::int32_t widthHeight
+#define PARAM_widthHeight_ma PARAM_widthHeight_m, std::int32_t count
+#define GROUP_width_height_m qorm::Size(width), qorm::Size(height)
+#define GROUP_width_height_ma GROUP_width_height_m, qorm::Count(count)
+#define GROUP_widthHeight_m qorm::Size(widthHeight)
+#define GROUP_widthHeight_ma GROUP_widthHeight_m, qorm::Count(count)
+
+// Scratch of widthHeight * widthHeight elements, and a plain array of widthHeight results.
+#define PARAM_buffer(T) T* pBuffer
+#define GROUP_buffer(T) qorm::Scratch<T>(pBuffer, widthHeight, widthHeight)
+#define PARAM_values(T) T* pDstValues
+#define GROUP_values(T) qorm::Plain<T>(pDstValues, widthHeight)

@@ -1,0 +1,63 @@
+// Sizes that a kernel may know at compile time.
+#pragma once
+
+#include <cstddef>
+#include <type_traits>
+
+namespace qorm {
+
+template <std::ptrdiff_t value>
+using Fixed = std::integral_constant<std::ptrdiff_t, value>;
+
+template <std::ptrdiff_t width, std::ptrdiff_t height>
+constexpr Fixed<width * height> area(Fixed<width>, Fixed<height>) {
+    return {};
+}
+constexpr std::ptrdiff_t area(std::ptrdiff_t width, std::ptrdiff_t height) {
+    return width * height;
+}
+
+// Calls work(width, height) with constants for the squares of 3 to 6.
+template <class Work>
+void withStaticSquare(std::ptrdiff_t width, std::ptrdiff_t height, const Work& work) {
+    switch (width == height ? width : 0) {
+    case 3:
+        return work(Fixed<3>(), Fixed<3>());
+    case 4:
+        return work(Fixed<4>(), Fixed<4>());
+    case 5:
+        return work(Fixed<5>(), Fixed<5>());
+    case 6:
+        return work(Fixed<6>(), Fixed<6>());
+    default:
+        return work(width, height);
+    }
+}
+
+// The largest size that lanes of a size known at run time are made for: two matrices of packs on
+// the stack.
+inline constexpr std::ptrdiff_t mostLaneSize = 16;
+
+template <class N>
+inline constexpr std::ptrdiff_t largestSize = mostLaneSize;
+template <std::ptrdiff_t value>
+inline constexpr std::ptrdiff_t largestSize<Fixed<value>> = value;
+
+// work(n) for the sizes that are done in lanes, with constants for 3 to 6; false for others.
+template <class Work>
+bool withLaneSize(std::ptrdiff_t n, const Work& work) {
+    switch (n) {
+    case 3:
+        return work(Fixed<3>());
+    case 4:
+        return work(Fixed<4>());
+    case 5:
+        return work(Fixed<5>());
+    case 6:
+        return work(Fixed<6>());
+    default:
+        return n > 6 && n <= mostLaneSize && work(n);
+    }
+}
+
+} // namespace qorm
