@@ -83,6 +83,10 @@ constexpr Variant variantOfVectors(Kind kind, std::size_t elementSize, Layout la
             .sortsFirst = kind == Kind::m && !isM32f};
 }
 
+// Two registers: the sweeps wait for their roots and divisions, and two chains of them overlap.
+template <class T>
+using LanesOf = Pack<T, 2>;
+
 // One object, exactly as the contract tells, down to the state that a failure leaves.
 template <Variant variant, class T, class Src, class Vectors>
 qorStatus solveObject(const Src& src, T* buffer, Run<T> values, const Vectors& vectors,
@@ -104,7 +108,7 @@ qorStatus solveObject(const Src& src, T* buffer, Run<T> values, const Vectors& v
 template <Variant variant, class T, class N, class Src, class Vectors>
 bool solveLanes(const Src& src, const Vectors& dstVectors, const Plain<T>& dstValues,
                 std::ptrdiff_t first, int live, N n) {
-    using V = Pack<T>;
+    using V = LanesOf<T>;
     constexpr std::ptrdiff_t capacity = largestSize<N>;
     V workBlock[capacity * capacity];
     V valueBlock[capacity];
@@ -176,7 +180,7 @@ auto objectOf(const Vectors& vectors, std::ptrdiff_t n, std::ptrdiff_t columns) 
 template <Variant variant, class T, class Src, class Vectors>
 qorStatus solveArray(const Src& src, const Scratch<T>& scratch, const Vectors& dstVectors,
                      const Plain<T>& dstValues, std::ptrdiff_t n, std::ptrdiff_t count) {
-    constexpr int lanes = laneCount<T>;
+    constexpr int lanes = laneCount<LanesOf<T>>;
     const LaneGuard<T, Src, Vectors> guard(src, scratch, dstVectors, dstValues, n);
     for (std::ptrdiff_t first = 0; first < count; first += lanes) {
         const int live = static_cast<int>(std::min<std::ptrdiff_t>(lanes, count - first));

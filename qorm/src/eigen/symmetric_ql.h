@@ -270,7 +270,7 @@ private:
     // sqrt(x + 1). With vectors the root is taken in 64-bit arithmetic.
     V rootOfOnePlus(V x) {
         if constexpr (variant.vectors) {
-            return in64(x, [](auto wide) { return sqrt(wide + 1.0); });
+            return in64(x, [](auto wide) { return sqrt(wide + decltype(wide)(1.0)); });
         } else {
             return sqrt(x + one);
         }

@@ -29,7 +29,7 @@ struct PackRun {
 template <class V, class Operand, class N>
 void loadLanes(const Operand& operand, std::ptrdiff_t first, int live, N rows, N columns,
                PackMatrix<V> block) {
-    constexpr int lanes = laneCount<LaneType<V>>;
+    constexpr int lanes = laneCount<V>;
     if (live == lanes && operand.hasObjectsSideBySide()) {
         const auto object = operand.object(first, columns);
         for (std::ptrdiff_t i = 0; i < rows; ++i) {
@@ -52,7 +52,7 @@ void loadLanes(const Operand& operand, std::ptrdiff_t first, int live, N rows, N
 template <class V, class Operand, class N>
 void storeLanes(const Operand& operand, std::ptrdiff_t first, int live, N rows, N columns,
                 PackMatrix<V> block) {
-    constexpr int lanes = laneCount<LaneType<V>>;
+    constexpr int lanes = laneCount<V>;
     if (live == lanes && operand.hasObjectsSideBySide()) {
         const auto object = operand.object(first, columns);
         for (std::ptrdiff_t i = 0; i < rows; ++i) {

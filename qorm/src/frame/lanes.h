@@ -1,13 +1,13 @@
-// Lanes: a pack is one native register of values, one per object. A kernel that takes its value
-// type as a parameter works on one object with a scalar and on as many objects as there are lanes
-// with a pack; each lane does exactly the operations of the scalar, so the bits are the same.
+// Lanes: a pack holds one value of each of several objects. A kernel that takes its value type as a
+// parameter works on one object with a scalar and on as many objects as there are lanes with a pack;
+// each lane does exactly the operations of the scalar, so the bits are the same.
 //
 // Conditions become masks: `select` in place of `? :`, `assignWhere` in place of `if`, and `any` to
 // leave early. For scalars a mask is a bool and all three are what they replace.
 //
-// The packs wrap the compilers' vector extensions, which know all of arithmetic on GCC and Clang, on
-// x86 and Arm. What these lack, roots and masks, is taken from the instruction set where it has
-// something to give and written plainly elsewhere.
+// Packs wrap the compilers' vector extensions, which know all of arithmetic on GCC and Clang, on x86
+// and Arm. What these lack, roots and masks, is taken from the instruction set where it has something
+// to give and written plainly elsewhere.
 #pragma once
 
 #include <cmath>
@@ -31,147 +31,241 @@ inline constexpr int registerBytes = 32;
 inline constexpr int registerBytes = 16;
 #endif
 
-template <class T>
-inline constexpr int laneCount = registerBytes / static_cast<int>(sizeof(T));
-
 typedef float RegisterOfFloats __attribute__((vector_size(registerBytes)));
 typedef double RegisterOfDoubles __attribute__((vector_size(registerBytes)));
 
 template <class T>
 using Register = std::conditional_t<sizeof(T) == 4, RegisterOfFloats, RegisterOfDoubles>;
 
-// One condition per lane: a bit where there are mask registers, else an integer of all zeros or all
-// ones of the width of T.
+// The bits of a register as integers of the width of T.
 template <class T>
-struct PackMask {
+using Bits = decltype(Register<T>() < Register<T>());
+
+// One condition per lane of a register: a bit where there are mask registers, else an integer of all
+// zeros or all ones.
 #if defined(QORM_AVX512)
-    using Flags = std::conditional_t<sizeof(T) == 4, __mmask16, __mmask8>;
+template <class T>
+using Flags = std::conditional_t<sizeof(T) == 4, __mmask16, __mmask8>;
 #else
-    using Flags = decltype(Register<T>() < Register<T>());
+template <class T>
+using Flags = Bits<T>;
 #endif
-    Flags flags;
-
-    friend PackMask operator&(PackMask a, PackMask b) {
-        return {static_cast<Flags>(a.flags & b.flags)};
-    }
-    friend PackMask operator|(PackMask a, PackMask b) {
-        return {static_cast<Flags>(a.flags | b.flags)};
-    }
-    friend PackMask operator!(PackMask a) {
-        return {static_cast<Flags>(~a.flags)};
-    }
-};
 
 template <class T>
-struct Pack {
-    using Lane = T;
+concept Scalar = std::is_floating_point_v<T>;
 
-    Register<T> lanes;
-
-    Pack() = default;
-    Pack(Register<T> values) : lanes(values) {}
-    // x - (+0) is x for every x, which x + 0 is not.
-    Pack(T value) : lanes(value - Register<T>{}) {}
-
-    friend Pack operator+(Pack a, Pack b) { return a.lanes + b.lanes; }
-    friend Pack operator-(Pack a, Pack b) { return a.lanes - b.lanes; }
-    friend Pack operator*(Pack a, Pack b) { return a.lanes * b.lanes; }
-    friend Pack operator/(Pack a, Pack b) { return a.lanes / b.lanes; }
-    friend Pack operator-(Pack a) { return -a.lanes; }
+// Operations on one register.
+template <Scalar T>
+struct RegisterOf {
+    static constexpr bool singles = sizeof(T) == 4;
 
 #if defined(QORM_AVX512)
-    friend PackMask<T> operator>(Pack a, Pack b) {
-        return compare<_CMP_GT_OQ>(a, b);
-    }
-    friend PackMask<T> operator<=(Pack a, Pack b) {
-        return compare<_CMP_LE_OQ>(a, b);
-    }
-    friend PackMask<T> operator==(Pack a, Pack b) {
-        return compare<_CMP_EQ_OQ>(a, b);
-    }
-
-private:
     template <int relation>
-    static PackMask<T> compare(Pack a, Pack b) {
-        if constexpr (sizeof(T) == 4)
-            return {_mm512_cmp_ps_mask(a.lanes, b.lanes, relation)};
+    static Flags<T> compare(Register<T> x, Register<T> y) {
+        if constexpr (singles)
+            return _mm512_cmp_ps_mask(x, y, relation);
         else
-            return {_mm512_cmp_pd_mask(a.lanes, b.lanes, relation)};
+            return _mm512_cmp_pd_mask(x, y, relation);
+    }
+    static Flags<T> isGreater(Register<T> x, Register<T> y) {
+        return compare<_CMP_GT_OQ>(x, y);
+    }
+    static Flags<T> isAtMost(Register<T> x, Register<T> y) {
+        return compare<_CMP_LE_OQ>(x, y);
+    }
+    static Flags<T> isEqual(Register<T> x, Register<T> y) {
+        return compare<_CMP_EQ_OQ>(x, y);
     }
 #else
-    friend PackMask<T> operator>(Pack a, Pack b) {
-        return opaque(a.lanes > b.lanes);
+    static Flags<T> isGreater(Register<T> x, Register<T> y) {
+        return opaque(x > y);
     }
-    friend PackMask<T> operator<=(Pack a, Pack b) {
-        return opaque(a.lanes <= b.lanes);
+    static Flags<T> isAtMost(Register<T> x, Register<T> y) {
+        return opaque(x <= y);
     }
-    friend PackMask<T> operator==(Pack a, Pack b) {
-        return opaque(a.lanes == b.lanes);
+    static Flags<T> isEqual(Register<T> x, Register<T> y) {
+        return opaque(x == y);
     }
 
-private:
-    static PackMask<T> opaque(typename PackMask<T>::Flags flags) {
+    static Flags<T> opaque(Flags<T> flags) {
 #if defined(__SSE2__) && !defined(__SSE4_1__)
         // Without blend instructions GCC 12 folds comparisons into conditionals that it then fails
         // to expand.
         __asm__("" : "+x"(flags));
 #endif
-        return {flags};
+        return flags;
     }
 #endif
+
+    static Register<T> select(Flags<T> where, Register<T> chosen, Register<T> otherwise) {
+#if defined(QORM_AVX512)
+        if constexpr (singles)
+            return _mm512_mask_mov_ps(otherwise, where, chosen);
+        else
+            return _mm512_mask_mov_pd(otherwise, where, chosen);
+#else
+        return (Register<T>)((where & (Bits<T>)chosen) | (~where & (Bits<T>)otherwise));
+#endif
+    }
+
+    static bool any(Flags<T> flags) {
+#if defined(QORM_AVX512)
+        return flags != 0;
+#elif defined(__AVX__)
+        if constexpr (singles)
+            return _mm256_movemask_ps((__m256)flags) != 0;
+        else
+            return _mm256_movemask_pd((__m256d)flags) != 0;
+#elif defined(__SSE2__)
+        if constexpr (singles)
+            return _mm_movemask_ps((__m128)flags) != 0;
+        else
+            return _mm_movemask_pd((__m128d)flags) != 0;
+#else
+        bool found = false;
+        for (std::size_t lane = 0; lane < registerBytes / sizeof(T); ++lane) {
+            found |= flags[lane] != 0;
+        }
+        return found;
+#endif
+    }
+
+    static Register<T> sqrt(Register<T> x) {
+#if defined(QORM_AVX512)
+        // The unmasked intrinsic warns in GCC 12.
+        if constexpr (singles)
+            return _mm512_maskz_sqrt_ps(0xFFFF, x);
+        else
+            return _mm512_maskz_sqrt_pd(0xFF, x);
+#elif defined(__AVX__)
+        if constexpr (singles)
+            return _mm256_sqrt_ps(x);
+        else
+            return _mm256_sqrt_pd(x);
+#elif defined(__SSE2__)
+        if constexpr (singles)
+            return _mm_sqrt_ps(x);
+        else
+            return _mm_sqrt_pd(x);
+#else
+        for (std::size_t lane = 0; lane < registerBytes / sizeof(T); ++lane) {
+            x[lane] = std::sqrt(x[lane]);
+        }
+        return x;
+#endif
+    }
 };
 
-template <class V>
-inline constexpr bool isPack = !std::is_floating_point_v<V>;
+template <Scalar T, int registers>
+struct PackMask {
+    Flags<T> flags[registers];
 
-template <class V>
-using Mask = decltype(V() > V());
+    friend PackMask operator&(PackMask a, const PackMask& b) {
+        for (int k = 0; k < registers; ++k) a.flags[k] &= b.flags[k];
+        return a;
+    }
+    friend PackMask operator|(PackMask a, const PackMask& b) {
+        for (int k = 0; k < registers; ++k) a.flags[k] |= b.flags[k];
+        return a;
+    }
+    friend PackMask operator!(PackMask a) {
+        for (auto& flags : a.flags) flags = static_cast<Flags<T>>(~flags);
+        return a;
+    }
+};
+
+template <Scalar T, int registers = 1>
+struct Pack {
+    Register<T> lanes[registers];
+
+    Pack() = default;
+    explicit Pack(T value) {
+        // x - (+0) is x for every x, which x + 0 is not.
+        for (auto& lane : lanes) lane = value - Register<T>{};
+    }
+
+    friend Pack operator+(Pack a, const Pack& b) {
+        for (int k = 0; k < registers; ++k) a.lanes[k] += b.lanes[k];
+        return a;
+    }
+    friend Pack operator-(Pack a, const Pack& b) {
+        for (int k = 0; k < registers; ++k) a.lanes[k] -= b.lanes[k];
+        return a;
+    }
+    friend Pack operator*(Pack a, const Pack& b) {
+        for (int k = 0; k < registers; ++k) a.lanes[k] *= b.lanes[k];
+        return a;
+    }
+    friend Pack operator/(Pack a, const Pack& b) {
+        for (int k = 0; k < registers; ++k) a.lanes[k] /= b.lanes[k];
+        return a;
+    }
+    friend Pack operator-(Pack a) {
+        for (auto& lane : a.lanes) lane = -lane;
+        return a;
+    }
+
+    friend PackMask<T, registers> operator>(const Pack& a, const Pack& b) {
+        return compare(a, b, RegisterOf<T>::isGreater);
+    }
+    friend PackMask<T, registers> operator<=(const Pack& a, const Pack& b) {
+        return compare(a, b, RegisterOf<T>::isAtMost);
+    }
+    friend PackMask<T, registers> operator==(const Pack& a, const Pack& b) {
+        return compare(a, b, RegisterOf<T>::isEqual);
+    }
+
+private:
+    template <class Relation>
+    static PackMask<T, registers> compare(const Pack& a, const Pack& b, Relation holds) {
+        PackMask<T, registers> mask;
+        for (int k = 0; k < registers; ++k) mask.flags[k] = holds(a.lanes[k], b.lanes[k]);
+        return mask;
+    }
+};
 
 template <class V>
 struct LaneTypeOf {
-    using Type = typename V::Lane;
+    using Type = V;
 };
-template <>
-struct LaneTypeOf<float> {
-    using Type = float;
-};
-template <>
-struct LaneTypeOf<double> {
-    using Type = double;
+template <Scalar T, int registers>
+struct LaneTypeOf<Pack<T, registers>> {
+    using Type = T;
 };
 
 // float or double.
 template <class V>
 using LaneType = typename LaneTypeOf<V>::Type;
 
-template <class T>
-requires std::is_floating_point_v<T> T select(bool where, T chosen, T otherwise) {
+template <class V>
+inline constexpr int laneCount = sizeof(V) / sizeof(LaneType<V>);
+
+template <class V>
+using Mask = decltype(V() > V());
+
+template <Scalar T>
+T select(bool where, T chosen, T otherwise) {
     return where ? chosen : otherwise;
 }
 
-template <class T>
-Pack<T> select(PackMask<T> where, Pack<T> chosen, Pack<T> otherwise) {
-#if defined(QORM_AVX512)
-    if constexpr (sizeof(T) == 4) {
-        return Register<T>(_mm512_mask_mov_ps(otherwise.lanes, where.flags, chosen.lanes));
-    } else {
-        return Register<T>(_mm512_mask_mov_pd(otherwise.lanes, where.flags, chosen.lanes));
+template <Scalar T, int registers>
+Pack<T, registers> select(const PackMask<T, registers>& where, const Pack<T, registers>& chosen,
+                          Pack<T, registers> otherwise) {
+    for (int k = 0; k < registers; ++k) {
+        otherwise.lanes[k] =
+            RegisterOf<T>::select(where.flags[k], chosen.lanes[k], otherwise.lanes[k]);
     }
-#else
-    using Bits = typename PackMask<T>::Flags;
-    return (Register<T>)((where.flags & (Bits)chosen.lanes) |
-                         (~where.flags & (Bits)otherwise.lanes));
-#endif
+    return otherwise;
 }
 
-template <class To, class T>
-requires std::is_floating_point_v<T>
+template <class To, Scalar T>
 void assignWhere(bool where, To&& to, T value) {
     if (where) to = value;
 }
 
-template <class T>
-void assignWhere(PackMask<T> where, Pack<T>& to, Pack<T> value) {
+template <Scalar T, int registers>
+void assignWhere(const PackMask<T, registers>& where, Pack<T, registers>& to,
+                 const Pack<T, registers>& value) {
     to = select(where, value, to);
 }
 
@@ -179,67 +273,34 @@ inline bool any(bool mask) {
     return mask;
 }
 
-template <class T>
-bool any(PackMask<T> mask) {
-    [[maybe_unused]] constexpr bool singles = sizeof(T) == 4;
-#if defined(QORM_AVX512)
-    return mask.flags != 0;
-#elif defined(__AVX__)
-    if constexpr (singles)
-        return _mm256_movemask_ps((__m256)mask.flags) != 0;
-    else
-        return _mm256_movemask_pd((__m256d)mask.flags) != 0;
-#elif defined(__SSE2__)
-    if constexpr (singles)
-        return _mm_movemask_ps((__m128)mask.flags) != 0;
-    else
-        return _mm_movemask_pd((__m128d)mask.flags) != 0;
-#else
-    bool found = false;
-    for (int lane = 0; lane < laneCount<T>; ++lane) found |= mask.flags[lane] != 0;
-    return found;
-#endif
+template <Scalar T, int registers>
+bool any(const PackMask<T, registers>& mask) {
+    Flags<T> flags = mask.flags[0];
+    for (int k = 1; k < registers; ++k) flags |= mask.flags[k];
+    return RegisterOf<T>::any(flags);
 }
 
-template <class T>
-requires std::is_floating_point_v<T> T abs(T x) {
+template <Scalar T>
+T abs(T x) {
     return std::fabs(x);
 }
 
-template <class T>
-Pack<T> abs(Pack<T> x) {
-    using Bits = decltype(x.lanes < x.lanes);
-    return (Register<T>)((Bits)x.lanes & ~(Bits)Pack<T>(T(-0.0)).lanes);
+template <Scalar T, int registers>
+Pack<T, registers> abs(Pack<T, registers> x) {
+    const Pack<T> sign(T(-0.0));
+    for (auto& lane : x.lanes) lane = (Register<T>)((Bits<T>)lane & ~(Bits<T>)sign.lanes[0]);
+    return x;
 }
 
-template <class T>
-requires std::is_floating_point_v<T> T sqrt(T x) {
+template <Scalar T>
+T sqrt(T x) {
     return std::sqrt(x);
 }
 
-template <class T>
-Pack<T> sqrt(Pack<T> x) {
-    [[maybe_unused]] constexpr bool singles = sizeof(T) == 4;
-#if defined(QORM_AVX512)
-    // The unmasked intrinsic warns in GCC 12.
-    if constexpr (singles)
-        return Register<T>(_mm512_maskz_sqrt_ps(0xFFFF, x.lanes));
-    else
-        return Register<T>(_mm512_maskz_sqrt_pd(0xFF, x.lanes));
-#elif defined(__AVX__)
-    if constexpr (singles)
-        return Register<T>(_mm256_sqrt_ps(x.lanes));
-    else
-        return Register<T>(_mm256_sqrt_pd(x.lanes));
-#elif defined(__SSE2__)
-    if constexpr (singles)
-        return Register<T>(_mm_sqrt_ps(x.lanes));
-    else
-        return Register<T>(_mm_sqrt_pd(x.lanes));
-#else
-    for (int lane = 0; lane < laneCount<T>; ++lane) x.lanes[lane] = std::sqrt(x.lanes[lane]);
+template <Scalar T, int registers>
+Pack<T, registers> sqrt(Pack<T, registers> x) {
+    for (auto& lane : x.lanes) lane = RegisterOf<T>::sqrt(lane);
     return x;
-#endif
 }
 
 // f(x), computed in 64-bit arithmetic and rounded to the type of x.
@@ -251,25 +312,34 @@ template <class F>
 float in64(float x, F f) {
     return static_cast<float>(f(double{x}));
 }
-template <class F>
-Pack<double> in64(Pack<double> x, F f) {
+template <class F, int registers>
+Pack<double, registers> in64(const Pack<double, registers>& x, F f) {
     return f(x);
 }
-template <class F, int... lane>
-Pack<float> in64(Pack<float> x, F f, std::integer_sequence<int, lane...>) {
-    constexpr int half = laneCount<double>;
+template <class F, int registers, int... lane>
+Pack<float, registers> in64(const Pack<float, registers>& x, F f,
+                            std::integer_sequence<int, lane...>) {
     typedef float HalfRegister __attribute__((vector_size(registerBytes / 2)));
-    const auto rounded = [&](HalfRegister part) {
-        const Pack<double> wide = f(Pack<double>(__builtin_convertvector(part, Register<double>)));
-        return __builtin_convertvector(wide.lanes, HalfRegister);
-    };
-    const HalfRegister low = rounded(__builtin_shufflevector(x.lanes, x.lanes, lane...));
-    const HalfRegister high = rounded(__builtin_shufflevector(x.lanes, x.lanes, (half + lane)...));
-    return __builtin_shufflevector(low, high, lane..., (half + lane)...);
+    constexpr int half = sizeof...(lane);
+    Pack<double, 2 * registers> wide;
+    for (int k = 0; k < registers; ++k) {
+        const HalfRegister low = __builtin_shufflevector(x.lanes[k], x.lanes[k], lane...);
+        const HalfRegister high = __builtin_shufflevector(x.lanes[k], x.lanes[k], (half + lane)...);
+        wide.lanes[2 * k] = __builtin_convertvector(low, Register<double>);
+        wide.lanes[2 * k + 1] = __builtin_convertvector(high, Register<double>);
+    }
+    wide = f(wide);
+    Pack<float, registers> rounded;
+    for (int k = 0; k < registers; ++k) {
+        const auto low = __builtin_convertvector(wide.lanes[2 * k], HalfRegister);
+        const auto high = __builtin_convertvector(wide.lanes[2 * k + 1], HalfRegister);
+        rounded.lanes[k] = __builtin_shufflevector(low, high, lane..., (half + lane)...);
+    }
+    return rounded;
 }
-template <class F>
-Pack<float> in64(Pack<float> x, F f) {
-    return in64(x, f, std::make_integer_sequence<int, laneCount<double>>());
+template <class F, int registers>
+Pack<float, registers> in64(const Pack<float, registers>& x, F f) {
+    return in64(x, f, std::make_integer_sequence<int, laneCount<Pack<double>>>());
 }
 
 } // namespace qorm
