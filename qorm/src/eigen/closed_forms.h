@@ -28,15 +28,15 @@ struct Axis {
 
 template <class T>
 Axis<T> axisOf(T cs, T tb) {
-    const auto inverseRoot = [](auto x) { return 1 / std::sqrt(x + 1); };
+    const auto inverseRoot = [](auto x) { return 1 / std::sqrt(x); };
     if (std::fabs(cs) > std::fabs(tb)) {
         const T ratio = -tb / cs;
-        const T sine = in64(ratio * ratio, inverseRoot);
+        const T sine = in64(ratio * ratio + 1, inverseRoot);
         return {sine, ratio * sine};
     }
     if (std::fabs(tb) <= std::numeric_limits<T>::epsilon()) return {0, 1};
     const T ratio = -cs / tb;
-    const T cosine = in64(ratio * ratio, inverseRoot);
+    const T cosine = in64(ratio * ratio + 1, inverseRoot);
     return {ratio * cosine, cosine};
 }
 

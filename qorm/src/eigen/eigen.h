@@ -135,9 +135,6 @@ bool solveLanes(const Src& src, const Vectors& dstVectors, const Plain<T>& dstVa
 inline RegularSpans spansOf(NoVectors, std::ptrdiff_t, std::ptrdiff_t) {
     return {{0, 0}, 0};
 }
-inline bool hasDistinctElements(NoVectors, std::ptrdiff_t, std::ptrdiff_t) {
-    return true;
-}
 
 // Lanes read objects before they write the first of them; this tells where that shows.
 template <class T, class Src, class Vectors>
@@ -148,14 +145,20 @@ public:
         : reads(spansOf(src, n, n)),
           vectorWrites(spansOf(vectors, n, n)),
           valueWrites(spansOf(values)),
-          scratchBytes(bytesOf(scratch.base, n * n * std::ptrdiff_t{sizeof(T)})),
-          distinct(hasDistinctElements(vectors, n, n)) {}
+          scratchBytes(bytesOf(scratch.base, n * n * std::ptrdiff_t{sizeof(T)})) {
+        if constexpr (!std::is_same_v<Vectors, NoVectors>) {
+            constexpr int lanes = laneCount<LanesOf<T>>;
+            distinct = hasDistinctElements(vectors, n, n, lanes);
+            inPlace = overlap(spanOfAll(reads, 0, 1), spanOfAll(vectorWrites, 0, 1)) &&
+                      shareOnlyPositions(src, vectors, n, n, lanes);
+        }
+    }
 
     bool allows(std::ptrdiff_t first, int live) const {
         const Bytes read = spanOfAll(reads, first, live);
         const Bytes vectors = spanOfAll(vectorWrites, first, live);
         const Bytes values = spanOfAll(valueWrites, first, live);
-        return distinct && mayReadAhead(reads, vectorWrites, first, live) &&
+        return distinct && (inPlace || mayReadAhead(reads, vectorWrites, first, live)) &&
                mayReadAhead(reads, valueWrites, first, live) && !overlap(values, vectors) &&
                !overlap(scratchBytes, read) && !overlap(scratchBytes, vectors) &&
                !overlap(scratchBytes, values);
@@ -166,7 +169,8 @@ private:
     decltype(spansOf(std::declval<Vectors>(), 0, 0)) vectorWrites;
     RegularSpans valueWrites;
     Bytes scratchBytes;
-    bool distinct;
+    bool distinct = true; // elements of the vectors
+    bool inPlace = false; // vectors on their own source
 };
 
 template <class Vectors>
@@ -177,23 +181,37 @@ auto objectOf(const Vectors& vectors, std::ptrdiff_t n, std::ptrdiff_t columns) 
         return vectors.object(n, columns);
 }
 
+// Objects first to last, one after the other.
+template <Variant variant, class T, class Src, class Vectors>
+qorStatus solveObjects(const Src& src, const Scratch<T>& scratch, const Vectors& dstVectors,
+                       const Plain<T>& dstValues, std::ptrdiff_t n, std::ptrdiff_t first,
+                       std::ptrdiff_t last) {
+    for (std::ptrdiff_t k = first; k <= last; ++k) {
+        const qorStatus status = solveObject<variant>(
+            src.object(k, n), scratch.base, dstValues.object(k), objectOf(dstVectors, k, n), n);
+        if (status != qorStatusOk) return status;
+    }
+    return qorStatusOk;
+}
+
 template <Variant variant, class T, class Src, class Vectors>
 qorStatus solveArray(const Src& src, const Scratch<T>& scratch, const Vectors& dstVectors,
                      const Plain<T>& dstValues, std::ptrdiff_t n, std::ptrdiff_t count) {
-    constexpr int lanes = laneCount<LanesOf<T>>;
+    if (count == 1 || !isLaneSize(n)) {
+        return solveObjects<variant>(src, scratch, dstVectors, dstValues, n, 0, count - 1);
+    }
     const LaneGuard<T, Src, Vectors> guard(src, scratch, dstVectors, dstValues, n);
+    constexpr std::ptrdiff_t lanes = laneCount<LanesOf<T>>;
     for (std::ptrdiff_t first = 0; first < count; first += lanes) {
-        const int live = static_cast<int>(std::min<std::ptrdiff_t>(lanes, count - first));
+        const int live = static_cast<int>(std::min(lanes, count - first));
         const bool solved =
-            live > 1 && guard.allows(first, live) && withLaneSize(n, [&](auto size) {
+            guard.allows(first, live) && withLaneSize(n, [&](auto size) {
                 return solveLanes<variant>(src, dstVectors, dstValues, first, live, size);
             });
         if (solved) continue;
-        for (std::ptrdiff_t k = first; k < first + live; ++k) {
-            const qorStatus status = solveObject<variant>(
-                src.object(k, n), scratch.base, dstValues.object(k), objectOf(dstVectors, k, n), n);
-            if (status != qorStatusOk) return status;
-        }
+        const qorStatus status =
+            solveObjects<variant>(src, scratch, dstVectors, dstValues, n, first, first + live - 1);
+        if (status != qorStatusOk) return status;
     }
     return qorStatusOk;
 }

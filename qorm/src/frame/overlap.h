@@ -3,6 +3,7 @@
 #pragma once
 
 #include "frame/operands.h"
+#include "frame/static_size.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -118,21 +119,23 @@ bool mayReadAhead(const Reads& reads, const Writes& writes, std::ptrdiff_t first
 // Whether the elements of one object surely lie apart from each other, so that the order in which
 // they are written does not show.
 template <class Operand>
-bool hasDistinctElements(const Operand& operand, std::ptrdiff_t rows, std::ptrdiff_t columns) {
+bool hasDistinctElements(const Operand& operand, std::ptrdiff_t rows, std::ptrdiff_t columns,
+                         int /*live*/) {
     return operand.stride1 >= columns * operand.stride2 ||
            operand.stride2 >= rows * operand.stride1;
 }
 
+// Objects side by side are written position by position, so there the positions of `live` objects
+// have to lie apart.
 template <class T, bool array>
 bool hasDistinctElements(const Pointers<T, array>& operand, std::ptrdiff_t rows,
-                         std::ptrdiff_t columns) {
-    constexpr std::ptrdiff_t most = 256;
-    if (rows * columns > most) return false;
-    T* sorted[most];
+                         std::ptrdiff_t columns, int live) {
+    const std::ptrdiff_t objects = operand.hasObjectsSideBySide() ? live : 1;
+    T* sorted[mostLaneSize * mostLaneSize];
     T** const end = std::copy(operand.table, operand.table + rows * columns, sorted);
     std::sort(sorted, end);
-    return std::adjacent_find(sorted, end, [](T* lower, T* upper) {
-               return stepped(lower, sizeof(T)) > upper;
+    return std::adjacent_find(sorted, end, [&](T* lower, T* upper) {
+               return stepped(lower, objects * std::ptrdiff_t{sizeof(T)}) > upper;
            }) == end;
 }
 
@@ -154,6 +157,16 @@ bool positionsAreIndependent(const Src& src, std::ptrdiff_t srcCount, const Dst&
         }
     }
     return true;
+}
+
+// Whether the objects of two operands lie side by side and share memory at most position on equal
+// position, so that `live` objects may be read ahead.
+template <class Src, class Dst>
+bool shareOnlyPositions(const Src& src, const Dst& dst, std::ptrdiff_t rows, std::ptrdiff_t columns,
+                        int live) {
+    return src.hasObjectsSideBySide() && dst.hasObjectsSideBySide() &&
+           positionsAreIndependent(src.object(0, columns), live, dst.object(0, columns), columns,
+                                   rows, live);
 }
 
 } // namespace qorm

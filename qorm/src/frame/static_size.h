@@ -43,6 +43,10 @@ inline constexpr std::ptrdiff_t largestSize = mostLaneSize;
 template <std::ptrdiff_t value>
 inline constexpr std::ptrdiff_t largestSize<Fixed<value>> = value;
 
+constexpr bool isLaneSize(std::ptrdiff_t n) {
+    return n >= 3 && n <= mostLaneSize;
+}
+
 // work(n) for the sizes that are done in lanes, with constants for 3 to 6; false for others.
 template <class Work>
 bool withLaneSize(std::ptrdiff_t n, const Work& work) {

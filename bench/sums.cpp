@@ -1,0 +1,204 @@
+// Sums of matrices beside a plain loop whose strides the compiler knows and Eigen's maps. The
+// limits move as many bytes as the row between plain arrays.
+#include "memory_limits.h"
+#include "operands.h"
+
+#include <Eigen/Core>
+
+namespace {
+
+using namespace bench;
+
+enum class Shape { mama, mam, tama };
+constexpr const char* shapeNames[] = {"Add mama", "Add mam", "Add tama"};
+
+template <class T, Shape shape>
+auto functionsOf() {
+    if constexpr (shape == Shape::mama) return QORM_LAYOUTS(T, qormAdd_mama);
+    if constexpr (shape == Shape::mam) return QORM_LAYOUTS(T, qormAdd_mam);
+    if constexpr (shape == Shape::tama) return QORM_LAYOUTS(T, qormAdd_tama);
+}
+
+template <class T, int n, Shape shape, int rowStep>
+void addObject(const T* __restrict a, const T* __restrict b, T* __restrict d) {
+    for (int i = 0; i < n; ++i) {
+        for (int j = 0; j < n; ++j) {
+            const T x = shape == Shape::tama ? a[j * rowStep + i] : a[i * rowStep + j];
+            d[i * rowStep + j] = x + b[i * rowStep + j];
+        }
+    }
+}
+
+template <class T, int n, Shape shape, int rowStep>
+void addMaps(const T* a, const T* b, T* d) {
+    using Matrix = Eigen::Matrix<T, n, n, Eigen::RowMajor>;
+    using Stride = Eigen::OuterStride<rowStep>;
+    const Eigen::Map<const Matrix, 0, Stride> x(a);
+    const Eigen::Map<const Matrix, 0, Stride> y(b);
+    Eigen::Map<Matrix, 0, Stride> z(d);
+    if constexpr (shape == Shape::tama)
+        z = x.transpose() + y;
+    else
+        z = x + y;
+}
+
+template <class T, int n, Shape shape, Placement placement>
+struct Sum {
+    static constexpr int rowStep = n + gapOf(placement);
+    static constexpr int objectStep = rowStep * rowStep;
+    static constexpr bool hasArrayOfSecond = shape != Shape::mam;
+
+    const Matrices<T>& a;
+    const Matrices<T>& b;
+    const Matrices<T>& d;
+    std::ptrdiff_t count;
+
+    // add(a, b, d) on the addresses of each object.
+    template <class Add>
+    bool objectByObject(const Add& add) const {
+        for (std::ptrdiff_t k = 0; k < count; ++k) {
+            const std::ptrdiff_t second = hasArrayOfSecond ? k : 0;
+            if constexpr (placement == Placement::list) {
+                add(a.pointers()[k], b.pointers()[second], d.pointers()[k]);
+            } else {
+                add(a.base() + k * objectStep, b.base() + second * objectStep,
+                    d.base() + k * objectStep);
+            }
+        }
+        return true;
+    }
+
+    // By tables of element addresses.
+    bool positionByPosition() const {
+        for (int i = 0; i < n; ++i) {
+            for (int j = 0; j < n; ++j) {
+                const T* const x = a.pointers()[shape == Shape::tama ? j * n + i : i * n + j];
+                const T* const y = b.pointers()[i * n + j];
+                T* const z = d.pointers()[i * n + j];
+                if constexpr (!hasArrayOfSecond) {
+                    for (std::ptrdiff_t k = 0; k < count; ++k) z[k] = x[k] + *y;
+                } else {
+                    addRun(x, y, z, count);
+                }
+            }
+        }
+        return true;
+    }
+    bool elementByElement() const {
+        for (std::ptrdiff_t k = 0; k < count; ++k) {
+            const std::ptrdiff_t second = hasArrayOfSecond ? k : 0;
+            for (int i = 0; i < n; ++i) {
+                for (int j = 0; j < n; ++j) {
+                    const T* const x = a.pointers()[shape == Shape::tama ? j * n + i : i * n + j];
+                    const T* const y = b.pointers()[i * n + j];
+                    d.pointers()[i * n + j][k * objectStep] =
+                        x[k * objectStep] + y[second * objectStep];
+                }
+            }
+        }
+        return true;
+    }
+
+    bool loop() const {
+        if constexpr (placement == Placement::adjacent)
+            return positionByPosition();
+        else if constexpr (placement == Placement::scattered)
+            return elementByElement();
+        else
+            return objectByObject(addObject<T, n, shape, rowStep>);
+    }
+    bool maps() const { return objectByObject(addMaps<T, n, shape, rowStep>); }
+
+    bool library(int threads) const {
+        const auto call = [&](const auto& second) {
+            return callLibrary(functionsOf<T, shape>(), placement, threads, a, second, d, n, n,
+                               static_cast<std::int32_t>(count));
+        };
+        if constexpr (hasArrayOfSecond)
+            return call(b);
+        else
+            return call(Single<T>{b});
+    }
+};
+
+constexpr double bytesPerObject(Shape shape, int elements, std::size_t elementSize) {
+    return (shape == Shape::mam ? 2.0 : 3.0) * elements * static_cast<double>(elementSize);
+}
+
+// contendersOf(subject, sum)
+template <class T, int n, Shape shape, Placement placement, class ContendersOf>
+void row(Session& session, Memory memory, int count, const ContendersOf& contendersOf) {
+    const Subject subject = {shapeNames[static_cast<int>(shape)],
+                             nameOf(placement),
+                             memory,
+                             nameOfType<T>,
+                             n,
+                             count,
+                             bytesPerObject(shape, n * n, sizeof(T)),
+                             0};
+    if (!session.wants(subject)) return;
+    const Matrices<T> a(n, n, count, placement);
+    const Matrices<T> b(n, n, shape == Shape::mam ? 1 : count, placement);
+    const Matrices<T> d(n, n, count, placement);
+    a.fillRandomly();
+    b.fillRandomly();
+    const Sum<T, n, shape, placement> sum = {a, b, d, count};
+    session.measure(subject, contendersOf(subject, sum), [&] { return d.takeSquares(); });
+}
+
+template <Shape shape, Placement placement>
+void rows(Session& session, Memory memory) {
+    forSizes<3, 4, 5, 6, 8>([&]<class T, int n>() {
+        const int count = countFor(memory, bytesPerObject(shape, n * n, sizeof(T)));
+        row<T, n, shape, placement>(
+            session, memory, count, [](const Subject& subject, const auto& sum) {
+                std::vector<Contender> contenders = memoryLimits<T>(subject, 1);
+                contenders.push_back({"qorm", Role::library, [&] { return sum.library(1); }});
+                contenders.push_back({"loop", Role::peer, [&] { return sum.loop(); }});
+                if constexpr (placement != Placement::adjacent &&
+                              placement != Placement::scattered) {
+                    contenders.push_back({"Eigen", Role::peer, [&] { return sum.maps(); }});
+                }
+                return contenders;
+            });
+    });
+}
+
+template <Shape shape>
+void rows(Session& session, Memory memory) {
+    rows<shape, Placement::packed>(session, memory);
+    rows<shape, Placement::padded>(session, memory);
+    rows<shape, Placement::adjacent>(session, memory);
+    rows<shape, Placement::scattered>(session, memory);
+    rows<shape, Placement::list>(session, memory);
+}
+
+const Registration
+    sums({"sums", {"qorm", "loop", "Eigen", "triad", "memcpy"}, [](Session& session) {
+              for (const Memory memory : {Memory::cached, Memory::streamed}) {
+                  rows<Shape::mama>(session, memory);
+                  rows<Shape::mam>(session, memory);
+                  rows<Shape::tama>(session, memory);
+              }
+          }});
+
+const Registration sumsOnThreads(
+    {"sums on threads", {"2 threads", "1 thread", "triad", "memcpy"}, [](Session& session) {
+         forSizes<3, 6>([&]<class T, int n>() {
+             const auto measure = [&](Memory memory, int count) {
+                 row<T, n, Shape::mama, Placement::packed>(
+                     session, memory, count, [](const Subject& subject, const auto& sum) {
+                         std::vector<Contender> contenders = memoryLimits<T>(subject, 2);
+                         for (const Contender& contender : twoThreadsAndOne(
+                                  [&sum](int threads) { return sum.library(threads); })) {
+                             contenders.push_back(contender);
+                         }
+                         return contenders;
+                     });
+             };
+             sweepCount(36864, 3 * n * n, [&](int count) { measure(Memory::cached, count); });
+             measure(Memory::streamed, countFor(Memory::streamed, 3 * n * n * sizeof(T)));
+         });
+     }});
+
+} // namespace

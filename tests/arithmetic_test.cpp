@@ -1,0 +1,32 @@
+// The instructions of the built libraries. A product fused with a sum rounds once where twice is
+// promised, and estimates of reciprocals differ between processors. Compilers fuse on their own,
+// some in spite of -ffp-contract=off.
+#include "harness/library.h"
+#include "harness/process.h"
+
+#include <gtest/gtest.h>
+#include <regex>
+
+namespace {
+
+TEST(Arithmetic, roundsEveryOperation) {
+    const std::regex instruction(R"(^\s*[0-9a-f]+:\t(\S+))");
+    const std::regex forbidden("v?(fm|fnm|rcp|rsqrt).*");
+    for (const std::string& path : harness::libraryPaths()) {
+        std::string function;
+        int sums = 0;
+        harness::forEachOutputLine(QORM_OBJDUMP " -d --no-show-raw-insn '" + path + "'",
+                                   [&](const std::string& line) {
+                                       if (line.ends_with(">:")) function = line;
+                                       std::smatch match;
+                                       if (!std::regex_search(line, match, instruction)) return;
+                                       const std::string mnemonic = match[1];
+                                       EXPECT_FALSE(std::regex_match(mnemonic, forbidden))
+                                           << path << ' ' << function << ' ' << line;
+                                       if (mnemonic.find("addps") != std::string::npos) ++sums;
+                                   });
+        EXPECT_GT(sums, 0) << "no instructions were read from " << path;
+    }
+}
+
+} // namespace

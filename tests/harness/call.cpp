@@ -1,0 +1,285 @@
+#include "harness/call.h"
+
+#include "qorcore.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <iomanip>
+#include <sstream>
+
+namespace harness {
+namespace {
+
+bool isPlain(const Operand& operand) {
+    return operand.parameter.kind == Parameter::results ||
+           operand.parameter.kind == Parameter::scratch;
+}
+
+void setStrides(Operand& operand, const Placement& placement, bool withGaps, int sharers) {
+    const std::int32_t size = operand.elementSize;
+    if (placement.overlapping) {
+        operand.stride0 = operand.stride1 = operand.stride2 = size;
+        return;
+    }
+    const auto gap = [&](int elements) { return withGaps ? elements * size : 0; };
+    struct Axis {
+        std::int32_t& stride;
+        int extent;
+        int gap;
+    };
+    const Axis objects = {operand.stride0, operand.objects, gap(placement.objectGap)};
+    const Axis rows = {operand.stride1, operand.rows, gap(placement.rowGap)};
+    const Axis elements = {operand.stride2, operand.columns, gap(placement.elementGap)};
+    const std::array<Axis, 3> innermostFirst =
+        placement.order == Placement::byRows      ? std::array{elements, rows, objects}
+        : placement.order == Placement::byColumns ? std::array{rows, elements, objects}
+                                                  : std::array{objects, elements, rows};
+    std::int32_t inner =
+        placement.sharing == Placement::interleavedElements ? sharers * size : size;
+    for (const Axis& axis : innermostFirst) {
+        axis.stride = inner + axis.gap;
+        inner = axis.stride * axis.extent;
+    }
+    if (placement.sharing == Placement::interleavedObjects) operand.stride0 *= sharers;
+}
+
+std::ptrdiff_t spanOf(const Operand& operand) {
+    return std::ptrdiff_t{operand.objects - 1} * operand.stride0 +
+           std::ptrdiff_t{operand.rows - 1} * operand.stride1 +
+           std::ptrdiff_t{operand.columns - 1} * operand.stride2 + operand.elementSize;
+}
+
+// Table entries, in the order in which they stand in the table.
+void setTable(Operand& operand, bool scattered, Random& random) {
+    std::vector<char*> entries;
+    if (operand.layout == Layout::L) {
+        for (int n = 0; n < operand.objects; ++n) {
+            entries.push_back(operand.base + std::ptrdiff_t{n} * operand.stride0);
+        }
+    } else {
+        for (int i = 0; i < operand.rows; ++i) {
+            for (int j = 0; j < operand.columns; ++j) {
+                entries.push_back(operand.base + std::ptrdiff_t{i} * operand.stride1 +
+                                  std::ptrdiff_t{j} * operand.stride2);
+            }
+        }
+    }
+    if (scattered) {
+        for (std::size_t k = entries.size(); k > 1; --k) {
+            std::swap(entries[k - 1], entries[random() % k]);
+        }
+    }
+    for (char*& entry : entries) entry -= operand.shift;
+    const std::size_t bytes = entries.size() * sizeof(char*);
+    operand.table = Region::take(static_cast<std::ptrdiff_t>(bytes), false, random());
+    std::memcpy(operand.table->begin(), entries.data(), bytes);
+    std::memcpy(operand.table->imageOf(operand.table->begin()), entries.data(), bytes);
+}
+
+template <class T>
+bool isNan(const char* address) {
+    T value;
+    std::memcpy(&value, address, sizeof value);
+    return std::isnan(value);
+}
+
+std::string bitsAt(const char* address, int bytes) {
+    std::ostringstream text;
+    text << "0x" << std::hex << std::setfill('0');
+    for (int k = bytes - 1; k >= 0; --k) {
+        text << std::setw(2) << static_cast<unsigned>(static_cast<unsigned char>(address[k]));
+    }
+    return text.str();
+}
+
+} // namespace
+
+char* Operand::address(int n, int i, int j) const {
+    if (parameter.transposed) std::swap(i, j);
+    if (!parameter.array) n = 0;
+    const std::ptrdiff_t object = std::ptrdiff_t{n} * stride0;
+    const std::ptrdiff_t position = std::ptrdiff_t{i} * stride1 + std::ptrdiff_t{j} * stride2;
+    if (!table) return base + object + position;
+    const bool perObject = layout == Layout::L;
+    char* entry;
+    std::memcpy(&entry,
+                table->begin() +
+                    sizeof entry * static_cast<std::size_t>(perObject ? n : i * columns + j),
+                sizeof entry);
+    return entry + shift + (perObject ? position : object);
+}
+
+void Operand::setNumber(int n, int i, int j, double value) const {
+    if (elementSize == sizeof(float))
+        set(n, i, j, static_cast<float>(value));
+    else
+        set(n, i, j, value);
+}
+
+bool Operand::isUntouched(int n) const {
+    bool untouched = true;
+    forEachElementOf(n, [&](int, int i, int j) {
+        const char* live = address(n, i, j);
+        untouched &= std::equal(live, live + elementSize, memory->imageOf(live));
+    });
+    return untouched;
+}
+
+void Operand::accept() const {
+    forEachElement([&](int n, int i, int j) {
+        const char* live = address(n, i, j);
+        std::copy(live, live + elementSize, memory->imageOf(live));
+    });
+}
+
+Call::Call(const Function& function, const Sizes& sizes, const Placement& placement,
+           std::uint64_t seed, std::string_view inPlaceOf)
+    : function_(function), sizes_(sizes), placementName_(placement.name), seed_(seed) {
+    const auto sizeOf = [&](const std::string& name) { return name == "1" ? 1 : sizes.at(name); };
+    for (const Parameter& parameter : function.parameters) {
+        if (parameter.kind == Parameter::size) continue;
+        Operand operand{};
+        operand.parameter = parameter;
+        operand.elementSize = function.elementSize;
+        operand.objects = parameter.array ? sizes.at("count") : 1;
+        operand.rows = sizeOf(parameter.rows);
+        operand.columns = sizeOf(parameter.columns);
+        operand.layout = isPlain(operand) ? Layout::S : function.layoutOf(parameter);
+        operands_.push_back(operand);
+    }
+    place(placement);
+    for (Operand& operand : operands_) {
+        if (operand.parameter.kind != Parameter::result || inPlaceOf.empty()) continue;
+        const Parameter parameter = operand.parameter;
+        operand = this->operand(inPlaceOf);
+        operand.parameter = parameter;
+    }
+}
+
+// Operands lie in blocks of their own, or interleaved in one: an array of structures.
+void Call::place(const Placement& placement) {
+    Random random(seed_);
+    std::vector<Operand*> matrices;
+    for (Operand& operand : operands_) {
+        if (!isPlain(operand)) matrices.push_back(&operand);
+    }
+    const int sharers = static_cast<int>(matrices.size());
+    const auto offsetOf = [&](const Operand& operand) {
+        return placement.sharing == Placement::interleavedElements  ? operand.elementSize
+               : placement.sharing == Placement::interleavedObjects ? operand.stride0 / sharers
+                                                                    : 0;
+    };
+    const auto take = [&](std::ptrdiff_t bytes) {
+        return Region::take(bytes + placement.misalignment,
+                            placement.atFront || placement.misalignment > 0, random());
+    };
+    std::ptrdiff_t most = 0;
+    for (int k = 0; k < sharers; ++k) {
+        Operand& operand = *matrices[static_cast<std::size_t>(k)];
+        const bool withGaps = placement.gapsOnlyIn < 0 || placement.gapsOnlyIn == k;
+        setStrides(operand, placement, withGaps, sharers);
+        most = std::max(most, spanOf(operand) + k * offsetOf(operand));
+    }
+    const auto shared = placement.sharing == Placement::apart ? nullptr : take(most);
+    for (int k = 0; k < sharers; ++k) {
+        Operand& operand = *matrices[static_cast<std::size_t>(k)];
+        operand.memory = shared ? shared : take(spanOf(operand));
+        operand.base = operand.memory->begin() + placement.misalignment + k * offsetOf(operand);
+        if (operand.layout == Layout::S) continue;
+        operand.shift = placement.shift * operand.elementSize;
+        setTable(operand, placement.scattered, random);
+    }
+    for (Operand& operand : operands_) {
+        if (!isPlain(operand)) continue;
+        setStrides(operand, {}, false, 1);
+        operand.memory = take(spanOf(operand));
+        operand.base = operand.memory->begin() + placement.misalignment;
+    }
+}
+
+const Operand& Call::operand(std::string_view name) const {
+    return *std::find_if(operands_.begin(), operands_.end(),
+                         [&](const Operand& o) { return o.parameter.name == name; });
+}
+
+const Operand* Call::scratch() const {
+    const auto found = std::find_if(operands_.begin(), operands_.end(), [](const Operand& o) {
+        return o.parameter.kind == Parameter::scratch;
+    });
+    return found == operands_.end() ? nullptr : &*found;
+}
+
+const Operand& Call::result() const {
+    return *std::find_if(operands_.rbegin(), operands_.rend(), [](const Operand& o) {
+        return o.parameter.kind == Parameter::result || o.parameter.kind == Parameter::results;
+    });
+}
+
+Value Call::valueOf(const Argument& argument) const {
+    if (argument.meaning == Argument::count || argument.meaning == Argument::size) {
+        return {.number = sizes_.at(argument.name)};
+    }
+    // Operands stand in front of the sizes, so their index is that of their parameter.
+    const Operand& operand = operands_[argument.parameter];
+    switch (argument.meaning) {
+    case Argument::stride0:
+        return {.number = operand.stride0};
+    case Argument::stride1:
+        return {.number = operand.stride1};
+    case Argument::stride2:
+        return {.number = operand.stride2};
+    case Argument::shift:
+        return {.number = operand.shift};
+    default:
+        return {.pointer = operand.table ? operand.table->begin() : operand.base};
+    }
+}
+
+std::int32_t Call::run(const Library& library) {
+    library_ = library.path();
+    std::vector<Value> values;
+    for (const Argument& argument : function_.arguments) values.push_back(valueOf(argument));
+    return library.call(function_, values, describe());
+}
+
+std::string Call::difference() const {
+    std::ostringstream text;
+    for (const Operand& operand : operands_) {
+        if (operand.parameter.kind == Parameter::scratch) operand.accept();
+        if (operand.memory->firstDifference() == nullptr) continue;
+        operand.forEachElement([&](int n, int i, int j) {
+            const char* live = operand.address(n, i, j);
+            char* image = operand.memory->imageOf(live);
+            const int size = operand.elementSize;
+            const bool bothNan = size == 4 ? isNan<float>(live) && isNan<float>(image)
+                                           : isNan<double>(live) && isNan<double>(image);
+            if (bothNan) {
+                std::copy(live, live + size, image);
+            } else if (text.str().empty() && !std::equal(live, live + size, image)) {
+                text << operand.parameter.name << '[' << n << "][" << i << "][" << j << "] got "
+                     << bitsAt(live, size) << " want " << bitsAt(image, size);
+            }
+        });
+    }
+    if (!text.str().empty()) return text.str();
+    for (const Operand& operand : operands_) {
+        for (const Region* region : {operand.memory.get(), operand.table.get()}) {
+            const char* byte = region == nullptr ? nullptr : region->firstDifference();
+            if (byte == nullptr) continue;
+            text << "a byte outside of all elements was written, " << byte - region->begin()
+                 << " from the first byte of " << operand.parameter.name;
+            return text.str();
+        }
+    }
+    return {};
+}
+
+std::string Call::describe() const {
+    std::ostringstream text;
+    text << function_ << ' ' << sizes_ << ", " << placementName_ << ", seed " << seed_ << ", "
+         << threads_omp_of_n_qor << " threads, " << library_;
+    return text.str();
+}
+
+} // namespace harness

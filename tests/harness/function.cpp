@@ -1,0 +1,179 @@
+#include "harness/function.h"
+
+#include <algorithm>
+#include <cctype>
+#include <filesystem>
+#include <fstream>
+#include <ostream>
+#include <regex>
+#include <stdexcept>
+
+namespace harness {
+namespace {
+
+struct Family {
+    std::string_view operations;
+    std::vector<Parameter> parameters;
+};
+
+const std::vector<Family>& families() {
+    using enum Parameter::Kind;
+    static const std::vector<Family> table = {
+        {"Add Sub",
+         {{source, "Src1", "height", "width"},
+          {source, "Src2", "height", "width"},
+          {result, "Dst", "height", "width"},
+          {size, "width", "", ""},
+          {size, "height", "", ""}}},
+        {"EigenValuesSym",
+         {{source, "Src", "widthHeight", "widthHeight"},
+          {scratch, "Buffer", "widthHeight", "widthHeight"},
+          {results, "DstValues", "1", "widthHeight"},
+          {size, "widthHeight", "", ""}}},
+        {"EigenValuesVectorsSym",
+         {{source, "Src", "widthHeight", "widthHeight"},
+          {scratch, "Buffer", "widthHeight", "widthHeight"},
+          {result, "DstVectors", "widthHeight", "widthHeight"},
+          {results, "DstValues", "1", "widthHeight"},
+          {size, "widthHeight", "", ""}}},
+    };
+    return table;
+}
+
+// "tama" gives "ta", "ma".
+std::vector<std::string> lettersOf(const std::string& shape) {
+    static const std::regex letter("[mtvc]a?");
+    const auto begin = std::sregex_iterator(shape.begin(), shape.end(), letter);
+    std::vector<std::string> letters;
+    for (auto match = begin; match != std::sregex_iterator(); ++match) {
+        letters.push_back(match->str());
+    }
+    return letters;
+}
+
+// Sources take the letters of the shape in their order; a destination is an array if any of them is.
+std::vector<Parameter> parametersOf(const Function& function) {
+    const auto family =
+        std::find_if(families().begin(), families().end(), [&](const Family& candidate) {
+            return contains(candidate.operations, function.operation);
+        });
+    if (family == families().end()) throw std::invalid_argument("no family of " + function.name);
+
+    std::vector<Parameter> parameters = family->parameters;
+    const std::vector<std::string> letters = lettersOf(function.shape);
+    std::size_t next = 0;
+    for (Parameter& parameter : parameters) {
+        if (parameter.kind == Parameter::source) {
+            const std::string& letter = letters.at(next++);
+            parameter.array = letter.ends_with('a');
+            parameter.transposed = letter.starts_with('t');
+            if (parameter.transposed) std::swap(parameter.rows, parameter.columns);
+        } else if (parameter.kind == Parameter::result || parameter.kind == Parameter::results) {
+            parameter.array = function.array;
+        }
+    }
+    return parameters;
+}
+
+std::vector<Argument> argumentsOf(const Function& function) {
+    std::vector<Argument> arguments;
+    for (std::size_t k = 0; k < function.parameters.size(); ++k) {
+        const Parameter& parameter = function.parameters[k];
+        const auto add = [&](Argument::Meaning meaning, const std::string& name) {
+            arguments.push_back({meaning, name, k});
+        };
+        if (parameter.kind == Parameter::size) {
+            add(Argument::size, parameter.name);
+            continue;
+        }
+        if (parameter.kind == Parameter::results || parameter.kind == Parameter::scratch) {
+            add(Argument::pointer, "p" + parameter.name);
+            continue;
+        }
+        const Layout layout = function.layoutOf(parameter);
+        std::string prefix = parameter.name;
+        prefix[0] = static_cast<char>(std::tolower(prefix[0]));
+        add(Argument::pointer, (layout == Layout::S ? "p" : "pp") + parameter.name);
+        if (layout != Layout::S) add(Argument::shift, prefix + "Shift");
+        if (layout != Layout::L && parameter.array) add(Argument::stride0, prefix + "Stride0");
+        if (layout != Layout::P) {
+            add(Argument::stride1, prefix + "Stride1");
+            add(Argument::stride2, prefix + "Stride2");
+        }
+    }
+    if (function.array) arguments.push_back({Argument::count, "count", 0});
+    return arguments;
+}
+
+} // namespace
+
+Layout Function::layoutOf(const Parameter& parameter) const {
+    return layout == Layout::L && !parameter.array ? Layout::S : layout;
+}
+
+bool Function::isOneOf(std::string_view operations, std::string_view shapes) const {
+    return contains(operations, operation) && contains(shapes, shape);
+}
+
+Function functionOf(const std::string& name) {
+    static const std::regex grammar("qorm([A-Za-z0-9]+)_([mtvca]+)_(32f|64f)(_[PL])?");
+    std::smatch match;
+    if (!std::regex_match(name, match, grammar)) throw std::invalid_argument("no name: " + name);
+
+    Function function;
+    function.name = name;
+    function.operation = match[1];
+    function.shape = match[2];
+    function.elementSize = match[3] == "32f" ? 4 : 8;
+    function.layout = match[4] == "_P" ? Layout::P : match[4] == "_L" ? Layout::L : Layout::S;
+    function.array = function.shape.find('a') != std::string::npos;
+    function.parameters = parametersOf(function);
+    function.arguments = argumentsOf(function);
+    return function;
+}
+
+std::ostream& operator<<(std::ostream& out, const Function& function) {
+    return out << function.name;
+}
+
+std::ostream& operator<<(std::ostream& out, const Sizes& sizes) {
+    const char* separator = "";
+    for (const auto& [name, value] : sizes) {
+        out << separator << name << '=' << value;
+        separator = " ";
+    }
+    return out;
+}
+
+const std::vector<Function>& allFunctions() {
+    static const std::vector<Function> functions = [] {
+        static const std::regex entry(R"(^[A-Z_]+\((qorm\w+),)");
+        std::vector<Function> found;
+        for (const auto& file : std::filesystem::recursive_directory_iterator(QORM_SOURCES)) {
+            if (file.path().extension() != ".def") continue;
+            std::ifstream list(file.path());
+            std::smatch match;
+            for (std::string line; std::getline(list, line);) {
+                if (std::regex_search(line, match, entry)) found.push_back(functionOf(match[1]));
+            }
+        }
+        std::sort(found.begin(), found.end(),
+                  [](const Function& a, const Function& b) { return a.name < b.name; });
+        return found;
+    }();
+    return functions;
+}
+
+std::vector<Function> functionsOf(std::string_view operations) {
+    std::vector<Function> functions;
+    std::copy_if(allFunctions().begin(), allFunctions().end(), std::back_inserter(functions),
+                 [&](const Function& f) { return contains(operations, f.operation); });
+    return functions;
+}
+
+bool contains(std::string_view words, std::string_view word) {
+    const std::string padded = ' ' + std::string(words) + ' ';
+    return padded.find(' ' + std::string(word) + ' ') != std::string::npos;
+}
+
+} // namespace harness

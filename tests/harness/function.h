@@ -1,0 +1,68 @@
+// What a function's name tells: its operands, the layout, the list of its arguments. A new family
+// needs one more row in the table of function.cpp.
+#pragma once
+
+#include <cstdint>
+#include <iosfwd>
+#include <map>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace harness {
+
+enum class Layout { S, P, L };
+
+// One parameter in the sense of the interface's description: an operand stands for several
+// arguments. Rows and columns are the names of the sizes that give them, or a number.
+struct Parameter {
+    enum Kind { source, result, results, scratch, size };
+
+    Kind kind; // `results` are a plain array, a run of `columns` elements per object
+    std::string name;
+    std::string rows;
+    std::string columns;
+    bool array = false;
+    bool transposed = false;
+};
+
+struct Argument {
+    enum Meaning { pointer, stride0, stride1, stride2, shift, size, count };
+
+    Meaning meaning;
+    std::string name;
+    std::size_t parameter;
+
+    bool isStride() const { return meaning >= stride0 && meaning <= stride2; }
+};
+
+struct Function {
+    std::string name;
+    std::string operation; // "EigenValuesSym"
+    std::string shape;     // "tama"
+    Layout layout;
+    int elementSize;
+    bool array; // of objects, with a count
+    std::vector<Parameter> parameters;
+    std::vector<Argument> arguments;
+
+    // An operand's own layout: a single one in list layout is passed as in the standard layout.
+    Layout layoutOf(const Parameter& parameter) const;
+    bool isOneOf(std::string_view operations, std::string_view shapes) const;
+};
+
+// By name: "width", "height", "widthHeight", "count".
+using Sizes = std::map<std::string, int>;
+
+Function functionOf(const std::string& name);
+std::ostream& operator<<(std::ostream& out, const Function& function);
+std::ostream& operator<<(std::ostream& out, const Sizes& sizes);
+
+// The functions that the library's own lists name, or those of them that belong to `operations`.
+const std::vector<Function>& allFunctions();
+std::vector<Function> functionsOf(std::string_view operations);
+
+// Whether one of the words, separated by blanks, is `word`.
+bool contains(std::string_view words, std::string_view word);
+
+} // namespace harness
