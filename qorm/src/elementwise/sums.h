@@ -69,8 +69,9 @@ auto objectOf(const Operand& operand, std::ptrdiff_t n, std::ptrdiff_t width,
 }
 
 template <class Sign, Kind first, Kind second, class A, class B, class D, class Width, class Height>
-void combineObjects(const A& src1, const B& src2, const D& dst, Width width, Height height,
-                    std::ptrdiff_t count) {
+[[gnu::always_inline]] inline void combineObjects(const A& src1, const B& src2, const D& dst,
+                                                  Width width, Height height,
+                                                  std::ptrdiff_t count) {
     for (std::ptrdiff_t n = 0; n < count; ++n) {
         const auto a = objectOf<first>(src1, n, width, height);
         const auto b = objectOf<second>(src2, n, width, height);
@@ -79,6 +80,19 @@ void combineObjects(const A& src1, const B& src2, const D& dst, Width width, Hei
             for (std::ptrdiff_t j = 0; j < width; ++j) d(i, j) = Sign()(a(i, j), b(i, j));
         }
     }
+}
+
+// The same where the destination is apart from both sources. Told so, the compiler keeps a single
+// operand in registers and uses packed arithmetic inside an object. It believes parameters only.
+template <class Sign, Kind first, Kind second, class A, class B, class D, class Width, class Height>
+[[gnu::noinline]] void
+combineApart(A src1, B src2, D dst, const typename D::Element* __restrict base1,
+             const typename D::Element* __restrict base2, typename D::Element* __restrict base,
+             Width width, Height height, std::ptrdiff_t count) {
+    src1.base = base1;
+    src2.base = base2;
+    dst.base = base;
+    combineObjects<Sign, first, second>(src1, src2, dst, width, height, count);
 }
 
 // The elements of one position over all objects; a single operand has one for all.
@@ -115,39 +129,70 @@ bool combinePositions(const A& src1, const B& src2, const D& dst, std::ptrdiff_t
     return true;
 }
 
+// Whether no element of an operand lies where the destination is written. A list is not looked
+// through: a test for each object costs more than it brings.
+template <Kind kind, class Src, class Dst>
+bool isApart(const Src& src, const Dst& dst, std::ptrdiff_t width, std::ptrdiff_t height,
+             std::ptrdiff_t count) {
+    if constexpr (Dst::layout == Layout::S) {
+        const RegularSpans read =
+            isTransposed(kind) ? spansOf(src, width, height) : spansOf(src, height, width);
+        return areApart(read, spansOf(dst, height, width), count);
+    } else {
+        return false;
+    }
+}
+
+template <class Sign, Kind first, Kind second, class A, class B, class D, class Width, class Height>
+void combineStrided(const A& src1, const B& src2, const D& dst, Width width, Height height,
+                    bool apart, std::ptrdiff_t count) {
+    if constexpr (D::layout == Layout::S) {
+        if (apart) {
+            return combineApart<Sign, first, second>(src1, src2, dst, src1.base, src2.base,
+                                                     dst.base, width, height, count);
+        }
+    }
+    combineObjects<Sign, first, second>(src1, src2, dst, width, height, count);
+}
+
 template <class Sign, Kind first, Kind second, class A, class B, class D>
 qorStatus run(const A& src1, const B& src2, const D& dst, Size widthOf, Size heightOf,
               Count countOf = Count(1)) {
     const std::ptrdiff_t width = widthOf.value;
     const std::ptrdiff_t height = heightOf.value;
     const std::ptrdiff_t count = countOf.value;
-    const auto combine = [&](auto columns, auto rows, std::ptrdiff_t objects) {
-        combineObjects<Sign, first, second>(src1, src2, dst, columns, rows, objects);
-    };
     const auto all = [&](auto holds) { return holds(src1) && holds(src2) && holds(dst); };
 
-    bool adjacentRows = false;
-    if constexpr (!isTransposed(first) && !isTransposed(second)) {
-        adjacentRows = all([&](auto& operand) { return operand.hasAdjacentRows(width); });
+    if constexpr (D::layout == Layout::P) {
+        if (count < width * height ||
+            !all([](auto& operand) { return operand.hasObjectsSideBySide(); }) ||
+            !combinePositions<Sign, first, second>(src1, src2, dst, width, height, count)) {
+            withStaticSquare(width, height, [&](auto columns, auto rows) {
+                combineObjects<Sign, first, second>(src1, src2, dst, columns, rows, count);
+            });
+        }
+        return qorStatusOk;
+    } else {
+        constexpr bool asStored = !isTransposed(first) && !isTransposed(second);
+        const bool adjacentRows =
+            asStored && all([&](auto& operand) { return operand.hasAdjacentRows(width); });
         if (adjacentRows &&
             all([&](auto& operand) { return operand.hasAdjacentObjects(width * height); })) {
-            combine(width * height * count, Fixed<1>(), 1);
+            combineObjects<Sign, first, second>(src1, src2, dst, width * height * count, Fixed<1>(),
+                                                1);
             return qorStatusOk;
         }
-    }
-    // The test of independence takes width * height squared steps.
-    if (count >= width * height &&
-        all([](auto& operand) { return operand.hasObjectsSideBySide(); }) &&
-        combinePositions<Sign, first, second>(src1, src2, dst, width, height, count)) {
+        const bool apart = isApart<first>(src1, dst, width, height, count) &&
+                           isApart<second>(src2, dst, width, height, count);
+        withStaticSquare(width, height, [&](auto columns, auto rows) {
+            if (adjacentRows)
+                combineStrided<Sign, first, second>(src1, src2, dst, area(columns, rows),
+                                                    Fixed<1>(), apart, count);
+            else
+                combineStrided<Sign, first, second>(src1, src2, dst, columns, rows, apart, count);
+        });
         return qorStatusOk;
     }
-    withStaticSquare(width, height, [&](auto columns, auto rows) {
-        if (adjacentRows)
-            combine(area(columns, rows), Fixed<1>(), count);
-        else
-            combine(columns, rows, count);
-    });
-    return qorStatusOk;
 }
 
 } // namespace qorm::sums

@@ -72,6 +72,7 @@ struct Group {
 template <class T, bool array, bool contiguousRows>
 struct Strided : Group {
     using Element = T;
+    static constexpr Layout layout = Layout::S;
 
     T* base;
     std::int32_t stride0;
@@ -121,6 +122,7 @@ private:
 template <class T, bool array>
 struct Pointers : Group {
     using Element = T;
+    static constexpr Layout layout = Layout::P;
 
     T* const* table;
     std::int32_t shift;
@@ -163,6 +165,7 @@ struct Pointers : Group {
 template <class T, bool contiguousRows>
 struct List : Group {
     using Element = T;
+    static constexpr Layout layout = Layout::L;
 
     T* const* table;
     std::int32_t shift;

@@ -139,18 +139,79 @@ bool hasDistinctElements(const Pointers<T, array>& operand, std::ptrdiff_t rows,
            }) == end;
 }
 
-// For matrices whose objects lie side by side: whether writing all objects of one position of `dst`
-// leaves every other position of `src` alone. `srcCount` is 1 for a single matrix.
+// Whether no object of one operand overlaps any object of the other: apart altogether, or fields of
+// one array of structures.
+inline bool areApart(const RegularSpans& a, const RegularSpans& b, std::ptrdiff_t count) {
+    const int objects = static_cast<int>(count);
+    if (!overlap(spanOfAll(a, 0, objects), spanOfAll(b, 0, objects))) return true;
+    if (a.stride0 != b.stride0 || a.stride0 == 0) return false;
+    const auto structure = static_cast<std::uintptr_t>(a.stride0);
+    const std::uintptr_t sizeOfA = a.object0.end - a.object0.begin;
+    const std::uintptr_t sizeOfB = b.object0.end - b.object0.begin;
+    // From the begin of a to the next begin of an object of b, and from there to the next of a.
+    const bool aIsFirst = a.object0.begin <= b.object0.begin;
+    const std::uintptr_t distance =
+        aIsFirst ? b.object0.begin - a.object0.begin : a.object0.begin - b.object0.begin;
+    const std::uintptr_t fromAtoB =
+        aIsFirst ? distance % structure : (structure - distance % structure) % structure;
+    return sizeOfA <= fromAtoB && fromAtoB + sizeOfB <= structure;
+}
+
+// For matrices whose objects lie side by side, `count` elements a position. From here on `bytes` is
+// the length of such a run of elements.
+template <class Matrix>
+Bytes bytesAt(const Matrix& matrix, std::ptrdiff_t position, std::ptrdiff_t columns,
+              std::ptrdiff_t bytes) {
+    return bytesOf(matrix(position / columns, position % columns).address(), bytes);
+}
+
+template <class Matrix>
+Bytes spanOfPositions(const Matrix& matrix, std::ptrdiff_t rows, std::ptrdiff_t columns,
+                      std::ptrdiff_t bytes) {
+    Bytes all = bytesOf(matrix(0, 0).address(), bytes);
+    for (std::ptrdiff_t i = 0; i < rows; ++i) {
+        for (std::ptrdiff_t j = 0; j < columns; ++j) {
+            all = hullOf(all, bytesOf(matrix(i, j).address(), bytes));
+        }
+    }
+    return all;
+}
+
+// Whether both matrices lie in the same places, position by position, and these follow one another.
+template <class Src, class Dst>
+bool shareAscendingPositions(const Src& src, const Dst& dst, std::ptrdiff_t rows,
+                             std::ptrdiff_t columns, std::ptrdiff_t bytes) {
+    std::uintptr_t end = 0;
+    for (std::ptrdiff_t i = 0; i < rows; ++i) {
+        for (std::ptrdiff_t j = 0; j < columns; ++j) {
+            const Bytes written = bytesOf(dst(i, j).address(), bytes);
+            if (written.begin < end || src(i, j).address() != dst(i, j).address()) return false;
+            end = written.end;
+        }
+    }
+    return true;
+}
+
+// Whether writing all objects of one position of `dst` leaves every other position of `src` alone.
+// `srcCount` is 1 for a single matrix.
 template <class Src, class Dst>
 bool positionsAreIndependent(const Src& src, std::ptrdiff_t srcCount, const Dst& dst,
                              std::ptrdiff_t width, std::ptrdiff_t height, std::ptrdiff_t count) {
     constexpr std::ptrdiff_t elementSize{sizeof(*src(0, 0).address())};
+    const std::ptrdiff_t readBytes = srcCount * elementSize;
+    const std::ptrdiff_t writtenBytes = count * elementSize;
+    // The usual cases first: they take a look at each position, not at each pair.
+    if (!overlap(spanOfPositions(src, height, width, readBytes),
+                 spanOfPositions(dst, height, width, writtenBytes))) {
+        return true;
+    }
+    if (srcCount == count && shareAscendingPositions(src, dst, height, width, writtenBytes)) {
+        return true;
+    }
     for (std::ptrdiff_t position = 0; position < width * height; ++position) {
-        const Bytes written =
-            bytesOf(dst(position / width, position % width).address(), count * elementSize);
+        const Bytes written = bytesAt(dst, position, width, writtenBytes);
         for (std::ptrdiff_t other = 0; other < width * height; ++other) {
-            const Bytes read =
-                bytesOf(src(other / width, other % width).address(), srcCount * elementSize);
+            const Bytes read = bytesAt(src, other, width, readBytes);
             const bool inPlace =
                 position == other && srcCount == count && read.begin == written.begin;
             if (overlap(read, written) && !inPlace) return false;
