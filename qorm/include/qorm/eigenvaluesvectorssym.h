@@ -3,18 +3,19 @@
  *
  *  Column j of the destination `pDstVectors`, a matrix of `widthHeight` rows and columns in the
  *  layout of the source, is the eigenvector of `pDstValues[j]`. Vectors have unit length to
- * rounding and no convention of sign. `pSrc`, `pBuffer`, `pDstValues`, the method, the absolute
- * thresholds and the advice to scale are those of eigenvaluessym.h; the reflectors and rotations of
- * the method are accumulated into the vectors.
+ *  rounding and no convention of sign. `pSrc`, `pBuffer`, `pDstValues`, the method, the absolute
+ *  thresholds and the advice to scale are those of eigenvaluessym.h; the reflectors and rotations
+ *  of the method are accumulated into the vectors.
  *
- *  In place. The vectors may replace the source (same pointer and strides). The values must not lie
- *  in the vectors or the scratch.
+ *  In place. The vectors may replace the source (same pointer and strides). The values must not
+ *  lie in the vectors; `pBuffer` must overlap nothing.
  *
  *  Checks, in this order: null pointer, `widthHeight`, `count`, shifts, strides.
  *
  *  Statuses. As in eigenvaluessym.h. After #qorStatusSingular at size 3 and up values and vectors
- * of the object are complete: sorted in `m_32f_P`, `m_64f` and `m_64f_P`, unsorted in `m_32f` and
- * all array forms. After #qorStatusNoConvergence those of the object are meaningless.
+ *  of the object are complete: sorted in `m_32f_P`, `m_64f` and `m_64f_P`, unsorted in `m_32f` and
+ *  all array forms. After #qorStatusNoConvergence the values of the object are meaningless and its
+ *  vectors hold the reflections and rotations so far.
  */
 #ifndef QORM_EIGENVALUESVECTORSSYM_H
 #define QORM_EIGENVALUESVECTORSSYM_H

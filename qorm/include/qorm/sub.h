@@ -1,17 +1,17 @@
 /** @file sub.h
  *  Differences of matrices, element by element.
  *
- *  Shapes. `width` and `height` are those of the destination. An operand used as stored (`m`, `ma`)
- *  has the same; an operand used transposed (`t`, `ta`) lies in memory with `width` rows and `height`
- *  columns. In array forms the destination is an array of `count` matrices and a single operand
- *  serves every object.
+ *  Shapes. `width` and `height` are those of the destination. An operand used as stored (`m`,
+ *  `ma`) has the same; an operand used transposed (`t`, `ta`) lies in memory with `width` rows and
+ *  `height` columns. In array forms the destination is an array of `count` matrices and a single
+ *  operand serves every object.
  *
- *  Arithmetic. One IEEE subtraction per element, in the element type; the bits do not depend on the
- *  path, the layout or the threads. No status but that of a failed check is ever returned.
+ *  Arithmetic. One IEEE subtraction per element, in the element type; the bits do not depend on
+ *  the path, the layout or the threads. No status but that of a failed check is ever returned.
  *
  *  In place. The destination may coincide with an operand used as stored of the same shape and
- *  strides. A destination that overlaps a transposed operand, or a single operand of an array form,
- *  is not defined.
+ *  strides. A destination that overlaps a transposed operand, or a single operand of an array
+ *  form, is not defined.
  *
  *  Layouts, units and statuses: qorm/types.h.
  */

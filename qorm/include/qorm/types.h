@@ -17,9 +17,9 @@
  *  row by row, an operand read transposed being tabled as it lies in memory.
  *
  *  Units. **All strides and shifts are bytes.** A stride is at least 1, a shift at least 0, and
- * both are multiples of the element size. Nothing is asked of the alignment of pointers. No stride
- * is compared with another: objects may be interleaved, transposed in place by exchanged strides,
- * or packed. Entries of a table are not tested.
+ *  both are multiples of the element size. Nothing is asked of the alignment of pointers. No
+ *  stride is compared with another: objects may be interleaved, transposed in place by exchanged
+ *  strides, or packed. Entries of a table are not tested.
  *
  *  Statuses. A call with faulty arguments answers with the status of its first failing check and
  *  reads and writes no element; the order of the checks stands with each group of functions.

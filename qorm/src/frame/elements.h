@@ -75,6 +75,8 @@ struct Transposed {
 
     auto operator()(std::ptrdiff_t i, std::ptrdiff_t j) const { return matrix(j, i); }
 };
+template <class Matrix>
+Transposed(Matrix) -> Transposed<Matrix>;
 
 // A plain run of elements.
 template <class T>

@@ -169,7 +169,7 @@ struct PackMask {
         return a;
     }
     friend PackMask operator!(PackMask a) {
-        for (auto& flags : a.flags) flags = static_cast<Flags<T>>(~flags);
+        for (auto& flag : a.flags) flag = static_cast<Flags<T>>(~flag);
         return a;
     }
 };
