@@ -89,13 +89,27 @@ std::vector<std::vector<double>> timesOf(const std::vector<Contender>& contender
     return times;
 }
 
-// All contenders but the limits get the same result.
+// Of every round, the time of the slowest bound; empty if there is none.
+std::vector<double> rooflineOf(const std::vector<Contender>& contenders,
+                               const std::vector<std::vector<double>>& times) {
+    std::vector<double> slowest;
+    for (std::size_t c = 0; c < contenders.size(); ++c) {
+        if (contenders[c].role != Role::bound) continue;
+        slowest.resize(times[c].size());
+        for (std::size_t round = 0; round < slowest.size(); ++round) {
+            slowest[round] = std::max(slowest[round], times[c][round]);
+        }
+    }
+    return slowest;
+}
+
+// The library and its peers get the same result.
 void checkAgreement(const std::vector<Contender>& contenders,
                     const std::function<double()>& takeResult) {
     double expected = std::numeric_limits<double>::quiet_NaN();
     takeResult();
     for (const Contender& contender : contenders) {
-        if (contender.role == Role::limit) continue;
+        if (contender.role == Role::limit || contender.role == Role::bound) continue;
         run(contender);
         const double result = takeResult();
         if (std::isnan(expected)) expected = result;
@@ -137,7 +151,8 @@ void printMachine() {
     std::printf("peers:    gcc %s, %s\n", __VERSION__, BENCH_FLAGS);
     std::printf("library:  %s, %s\n", qormGetLibVersion()->versionText, library.dli_fname);
     std::printf("times:    ns per object, medians; GB/s and GFLOP/s are the library's\n");
-    std::printf("ratios:   time of the library to that of the best peer, of the best limit\n");
+    std::printf("ratios:   time of the library to that of the best peer, of the best limit, and of "
+                "the\n          slowest bound, the roofline\n");
 }
 
 } // namespace
@@ -148,7 +163,8 @@ Session::Session(Settings chosen) : settings(std::move(chosen)) {
     csv.open(settings.csv);
     if (!csv) fail("cannot write " + settings.csv);
     csv << "family,operation,placement,memory,type,size,count,contender,role,ns_per_object,"
-           "quartile_range_ns,gb_per_s,gflop_per_s,ratio_to_best_peer,ratio_to_limit\n";
+           "quartile_range_ns,gb_per_s,gflop_per_s,ratio_to_best_peer,ratio_to_limit,ratio_to_"
+           "roofline\n";
 }
 
 void Session::run(const Family& family) {
@@ -161,8 +177,8 @@ void Session::printHeader() {
     std::printf("\n%s\n\n| operation | placement | memory | size | type | count |",
                 current->name.c_str());
     for (const std::string& column : current->columns) std::printf(" %s |", column.c_str());
-    std::printf(" to peer | to limit | GB/s | GFLOP/s |\n|");
-    for (std::size_t column = 0; column < current->columns.size() + 10; ++column) {
+    std::printf(" to peer | to limit | to roofline | GB/s | GFLOP/s |\n|");
+    for (std::size_t column = 0; column < current->columns.size() + 11; ++column) {
         std::printf("---|");
     }
     std::printf("\n");
@@ -185,6 +201,10 @@ void Session::measure(const Subject& subject, const std::vector<Contender>& cont
     const auto ratioTo = [&](std::size_t other, std::size_t c) {
         return other == none ? 0 : medianRatio(times[c], times[other]);
     };
+    const std::vector<double> roofline = rooflineOf(contenders, times);
+    const auto ratioToRoofline = [&](std::size_t c) {
+        return roofline.empty() ? 0 : medianRatio(times[c], roofline);
+    };
 
     if (!hasHeader) printHeader();
     std::printf("| %s | %s | %s | %d | %s | %d |", subject.operation.c_str(),
@@ -199,14 +219,14 @@ void Session::measure(const Subject& subject, const std::vector<Contender>& cont
                     cell(runs ? medians[std::size_t(found - contenders.begin())] : 0).c_str());
     }
     const std::size_t library = bestOf(Role::library, contenders, medians);
-    std::printf(" %s | %s | %s | %s |\n", cell(ratioTo(peer, library)).c_str(),
-                cell(ratioTo(limit, library)).c_str(),
+    std::printf(" %s | %s | %s | %s | %s |\n", cell(ratioTo(peer, library)).c_str(),
+                cell(ratioTo(limit, library)).c_str(), cell(ratioToRoofline(library)).c_str(),
                 cell(subject.bytes / medians[library]).c_str(),
                 cell(subject.operations / medians[library]).c_str());
     std::fflush(stdout);
 
     for (std::size_t c = 0; c < contenders.size() && csv.is_open(); ++c) {
-        constexpr const char* roles[] = {"library", "peer", "limit"};
+        constexpr const char* roles[] = {"library", "peer", "limit", "bound"};
         std::vector<double> sorted = times[c];
         std::sort(sorted.begin(), sorted.end());
         csv << current->name << ',' << subject.operation << ',' << subject.placement << ','
@@ -215,7 +235,7 @@ void Session::measure(const Subject& subject, const std::vector<Contender>& cont
             << roles[static_cast<int>(contenders[c].role)] << ',' << medians[c] << ','
             << sorted[sorted.size() * 3 / 4] - sorted[sorted.size() / 4] << ','
             << subject.bytes / medians[c] << ',' << subject.operations / medians[c] << ','
-            << ratioTo(peer, c) << ',' << ratioTo(limit, c) << '\n';
+            << ratioTo(peer, c) << ',' << ratioTo(limit, c) << ',' << ratioToRoofline(c) << '\n';
     }
 }
 

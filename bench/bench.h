@@ -17,7 +17,8 @@ namespace bench {
 enum class Role {
     library, // one per row
     peer,
-    limit // a bound for orientation, no opponent
+    limit, // the practical limit: the operation on data that are laid out for it
+    bound  // the time of one resource alone; the slowest of a row's bounds is its roofline
 };
 
 struct Contender {
@@ -25,6 +26,10 @@ struct Contender {
     Role role;
     std::function<bool()> run; // the operation on all objects; false if it failed
 };
+
+inline void append(std::vector<Contender>& contenders, const std::vector<Contender>& others) {
+    contenders.insert(contenders.end(), others.begin(), others.end());
+}
 
 enum class Memory { cached, streamed };
 

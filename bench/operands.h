@@ -3,6 +3,7 @@
 #pragma once
 
 #include "bench.h"
+#include "lanes.h"
 #include "qorcore.h"
 #include "qorm.h"
 
@@ -80,10 +81,15 @@ public:
     T* base() const { return storage.get(); }
     T* const* pointers() const { return table.data(); }
 
+    // From one object to the next one, in elements; not of a list.
+    std::ptrdiff_t step() const { return stride0 / static_cast<std::ptrdiff_t>(sizeof(T)); }
+    // Of objects side by side.
+    Planes<T> planes() const { return {base(), plane}; }
+
     T& operator()(int k, int i, int j) const {
         const int p = i * columns + j;
         if (placement == Placement::list) return pointers()[k][p];
-        return pointers()[p][k * (stride0 / static_cast<std::ptrdiff_t>(sizeof(T)))];
+        return pointers()[p][k * step()];
     }
 
     template <class Work>

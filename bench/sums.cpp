@@ -1,9 +1,8 @@
-// Sums of matrices beside a plain loop whose strides the compiler knows and Eigen's maps. The
-// limits move as many bytes as the row between plain arrays.
-#include "memory_limits.h"
-#include "operands.h"
-
-#include <Eigen/Core>
+// Sums of matrices beside a plain loop whose strides the compiler knows and Eigen's maps. The limit
+// is a sum of plain arrays with as many bytes as the row.
+#include "eigen_maps.h"
+#include "objects.h"
+#include "roofline.h"
 
 namespace {
 
@@ -19,6 +18,24 @@ auto functionsOf() {
     if constexpr (shape == Shape::tama) return QORM_LAYOUTS(T, qormAdd_tama);
 }
 
+template <class T>
+void addRun(const T* __restrict a, const T* __restrict b, T* __restrict d, std::ptrdiff_t count) {
+    for (std::ptrdiff_t i = 0; i < count; ++i) d[i] = a[i] + b[i];
+}
+
+// A sum of two plain arrays with as many bytes as the subject.
+template <class T>
+Contender triad(const Subject& subject, int threads) {
+    const auto third = static_cast<std::ptrdiff_t>(subject.bytes * subject.count / sizeof(T) / 3);
+    const std::shared_ptr<T[]> data(new T[static_cast<std::size_t>(3 * third)]());
+    return {"triad", Role::limit, [=] {
+                return inShares(threads, third, [&](std::ptrdiff_t first, std::ptrdiff_t count) {
+                    T* const d = data.get() + first;
+                    addRun(d + third, d + 2 * third, d, count);
+                });
+            }};
+}
+
 template <class T, int n, Shape shape, int rowStep>
 void addObject(const T* __restrict a, const T* __restrict b, T* __restrict d) {
     for (int i = 0; i < n; ++i) {
@@ -31,11 +48,8 @@ void addObject(const T* __restrict a, const T* __restrict b, T* __restrict d) {
 
 template <class T, int n, Shape shape, int rowStep>
 void addMaps(const T* a, const T* b, T* d) {
-    using Matrix = Eigen::Matrix<T, n, n, Eigen::RowMajor>;
-    using Stride = Eigen::OuterStride<rowStep>;
-    const Eigen::Map<const Matrix, 0, Stride> x(a);
-    const Eigen::Map<const Matrix, 0, Stride> y(b);
-    Eigen::Map<Matrix, 0, Stride> z(d);
+    const ConstMap<T, n, rowStep> x(a), y(b);
+    Map<T, n, rowStep> z(d);
     if constexpr (shape == Shape::tama)
         z = x.transpose() + y;
     else
@@ -56,15 +70,13 @@ struct Sum {
     // add(a, b, d) on the addresses of each object.
     template <class Add>
     bool objectByObject(const Add& add) const {
-        for (std::ptrdiff_t k = 0; k < count; ++k) {
-            const std::ptrdiff_t second = hasArrayOfSecond ? k : 0;
-            if constexpr (placement == Placement::list) {
-                add(a.pointers()[k], b.pointers()[second], d.pointers()[k]);
-            } else {
-                add(a.base() + k * objectStep, b.base() + second * objectStep,
-                    d.base() + k * objectStep);
+        writeTo(d.base(), [&](T* target) {
+            const Objects<T, n, placement> x(a), y(b), z(d, target);
+            const std::ptrdiff_t all = count;
+            for (std::ptrdiff_t k = 0; k < all; ++k) {
+                add(x.read(k), y.read(hasArrayOfSecond ? k : 0), z.write(k));
             }
-        }
+        });
         return true;
     }
 
@@ -105,9 +117,13 @@ struct Sum {
         else if constexpr (placement == Placement::scattered)
             return elementByElement();
         else
-            return objectByObject(addObject<T, n, shape, rowStep>);
+            return objectByObject(
+                [](const T* x, const T* y, T* z) { addObject<T, n, shape, rowStep>(x, y, z); });
     }
-    bool maps() const { return objectByObject(addMaps<T, n, shape, rowStep>); }
+    bool maps() const {
+        return objectByObject(
+            [](const T* x, const T* y, T* z) { addMaps<T, n, shape, rowStep>(x, y, z); });
+    }
 
     bool library(int threads) const {
         const auto call = [&](const auto& second) {
@@ -152,7 +168,8 @@ void rows(Session& session, Memory memory) {
         const int count = countFor(memory, bytesPerObject(shape, n * n, sizeof(T)));
         row<T, n, shape, placement>(
             session, memory, count, [](const Subject& subject, const auto& sum) {
-                std::vector<Contender> contenders = memoryLimits<T>(subject, 1);
+                std::vector<Contender> contenders = roofline<T>(subject, 1);
+                contenders.push_back(triad<T>(subject, 1));
                 contenders.push_back({"qorm", Role::library, [&] { return sum.library(1); }});
                 contenders.push_back({"loop", Role::peer, [&] { return sum.loop(); }});
                 if constexpr (placement != Placement::adjacent &&
@@ -188,11 +205,11 @@ const Registration sumsOnThreads(
              const auto measure = [&](Memory memory, int count) {
                  row<T, n, Shape::mama, Placement::packed>(
                      session, memory, count, [](const Subject& subject, const auto& sum) {
-                         std::vector<Contender> contenders = memoryLimits<T>(subject, 2);
-                         for (const Contender& contender : twoThreadsAndOne(
-                                  [&sum](int threads) { return sum.library(threads); })) {
-                             contenders.push_back(contender);
-                         }
+                         std::vector<Contender> contenders = roofline<T>(subject, 2);
+                         contenders.push_back(triad<T>(subject, 2));
+                         append(contenders, twoThreadsAndOne([&sum](int threads) {
+                                    return sum.library(threads);
+                                }));
                          return contenders;
                      });
              };

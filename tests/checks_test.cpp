@@ -3,6 +3,7 @@
 #include "harness/library.h"
 #include "harness/memory.h"
 
+#include <algorithm>
 #include <gtest/gtest.h>
 #include <limits>
 
@@ -12,7 +13,8 @@ using namespace harness;
 
 // Statuses in the order of their checks.
 using Order = std::vector<std::int32_t>;
-constexpr std::int32_t null = -8, badSize = -6, badCount = -203, badStride = -182, badShift = -202;
+constexpr std::int32_t null = -8, badSize = -6, mismatch = -204, badCount = -203, badStride = -182,
+                       badShift = -202, singular = -195;
 
 struct Checks {
     std::string_view operations;
@@ -29,13 +31,21 @@ const Order eigen = {null, badSize, badCount, badStride};
 const Order eigenShifted = {null, badSize, badCount, badShift, badStride};
 const Order single = {null, badSize, badStride};
 const Order singleShifted = {null, badSize, badShift};
+const Order product = {null, badCount, badSize, mismatch, badStride};
+const Order productShifted = {null, badCount, badSize, mismatch, badStride, badShift};
+const Order singleProduct = {null, badSize, mismatch, badStride};
+const Order singleProductShifted = {null, badSize, mismatch, badShift};
 
 const Checks checks[] = {
     {"Add Sub", "mm tm mt tt", single, singleShifted, {}},
     {"Add", "mam", stridesFirst, usualShifted, usualShifted},
     {"Sub", "mam mma", stridesFirst, usualShifted, usualShifted},
     {"Add Sub", "tam mat tat tma mta tta mama tama mata tata", usual, usualShifted, usualShifted},
-    {"EigenValuesSym EigenValuesVectorsSym", "m", single, singleShifted, {}},
+    {"Mul", "mm tm mt tt", singleProduct, singleProductShifted, {}},
+    {"Mul", "mam tam mat tat mma tma mta tta mama tama mata tata", product, productShifted,
+     productShifted},
+    {"Det Invert EigenValuesSym EigenValuesVectorsSym", "m", single, singleShifted, {}},
+    {"Det Invert", "ma", usual, usualShifted, usualShifted},
     {"EigenValuesSym EigenValuesVectorsSym", "ma", eigen, eigenShifted, eigenShifted},
 };
 
@@ -49,37 +59,44 @@ const Order& orderOf(const Function& function) {
     throw std::out_of_range("no order of checks for " + function.name);
 }
 
-std::int32_t statusOf(const Argument& argument) {
-    switch (argument.meaning) {
-    case Argument::pointer:
-        return null;
-    case Argument::shift:
-        return badShift;
-    case Argument::size:
-        return badSize;
-    case Argument::count:
-        return badCount;
-    default:
-        return badStride;
-    }
+// Values that give a status, where the other arguments are without a fault.
+struct Fault {
+    std::int32_t status;
+    std::vector<Value> values;
+};
+
+// Whether the argument is one of the two sizes that have to be the same.
+bool isMatched(const Function& function, const Argument& argument) {
+    if (function.operation != "Mul") return false;
+    const Parameter& src1 = function.parameters.front();
+    const Parameter& src2 = *std::find_if(function.parameters.begin(), function.parameters.end(),
+                                          [](const Parameter& p) { return p.name == "Src2"; });
+    return argument.name == (src1.transposed ? src1.rows : src1.columns) ||
+           argument.name == (src2.transposed ? src2.columns : src2.rows);
 }
 
-std::vector<Value> faultyValues(const Argument& argument, int elementSize) {
+std::vector<Fault> faultsOf(const Function& function, const Argument& argument) {
     constexpr std::int32_t lowest = std::numeric_limits<std::int32_t>::min();
     constexpr std::int32_t highest = std::numeric_limits<std::int32_t>::max();
-    if (argument.meaning == Argument::pointer) return {{.pointer = nullptr}};
-    if (argument.meaning == Argument::size || argument.meaning == Argument::count) {
-        return {{.number = 0}, {.number = -1}, {.number = lowest}};
+    const std::int32_t size = function.elementSize;
+    const std::vector<Value> notPositive = {{.number = 0}, {.number = -1}, {.number = lowest}};
+    std::vector<Value> offGrid = {
+        {.number = 1},  {.number = size / 2}, {.number = highest}, {.number = 100 * size + 1},
+        {.number = -1}, {.number = -size},    {.number = lowest}};
+    switch (argument.meaning) {
+    case Argument::pointer:
+        return {{null, {{.pointer = nullptr}}}};
+    case Argument::count:
+        return {{badCount, notPositive}};
+    case Argument::size:
+        if (!isMatched(function, argument)) return {{badSize, notPositive}};
+        return {{badSize, notPositive}, {mismatch, {{.number = 2}, {.number = highest}}}};
+    case Argument::shift:
+        return {{badShift, offGrid}};
+    default:
+        offGrid.push_back({.number = 0});
+        return {{badStride, offGrid}};
     }
-    std::vector<Value> values = {{.number = 1},
-                                 {.number = elementSize / 2},
-                                 {.number = 100 * elementSize + 1},
-                                 {.number = highest},
-                                 {.number = -1},
-                                 {.number = -elementSize},
-                                 {.number = lowest}};
-    if (argument.isStride()) values.push_back({.number = 0});
-    return values;
 }
 
 // Arguments without a fault: one object of one element, which uses no stride. A call with these
@@ -119,10 +136,12 @@ TEST_P(CheckedArguments, eachAlone) {
     for (std::size_t k = 0; k < function.arguments.size(); ++k) {
         const Argument& argument = function.arguments[k];
         std::vector<Value> values = faultlessValues(function);
-        for (const Value& faulty : faultyValues(argument, function.elementSize)) {
-            values[k] = faulty;
-            expectStatus(function, values, statusOf(argument),
-                         argument.name + " " + std::to_string(faulty.number));
+        for (const Fault& fault : faultsOf(function, argument)) {
+            for (const Value& faulty : fault.values) {
+                values[k] = faulty;
+                expectStatus(function, values, fault.status,
+                             argument.name + " " + std::to_string(faulty.number));
+            }
         }
     }
 }
@@ -130,20 +149,24 @@ TEST_P(CheckedArguments, eachAlone) {
 TEST_P(CheckedArguments, firstOfEachPair) {
     const Function& function = GetParam();
     const Order& order = orderOf(function);
-    const auto rank = [&](const Argument& argument) {
-        const auto found = std::find(order.begin(), order.end(), statusOf(argument));
-        EXPECT_NE(found, order.end()) << function << " does not check " << argument.name;
+    const auto rank = [&](const Fault& fault) {
+        const auto found = std::find(order.begin(), order.end(), fault.status);
+        EXPECT_NE(found, order.end()) << function << " does not give " << fault.status;
         return found;
     };
     for (std::size_t k = 0; k < function.arguments.size(); ++k) {
         for (std::size_t l = k + 1; l < function.arguments.size(); ++l) {
             const Argument& one = function.arguments[k];
             const Argument& other = function.arguments[l];
-            std::vector<Value> values = faultlessValues(function);
-            values[k] = faultyValues(one, function.elementSize).back();
-            values[l] = faultyValues(other, function.elementSize).front();
-            expectStatus(function, values, *std::min(rank(one), rank(other)),
-                         one.name + ", " + other.name);
+            for (const Fault& fault : faultsOf(function, one)) {
+                for (const Fault& otherFault : faultsOf(function, other)) {
+                    std::vector<Value> values = faultlessValues(function);
+                    values[k] = fault.values.back();
+                    values[l] = otherFault.values.front();
+                    expectStatus(function, values, *std::min(rank(fault), rank(otherFault)),
+                                 one.name + ", " + other.name);
+                }
+            }
         }
     }
 }
@@ -151,10 +174,36 @@ TEST_P(CheckedArguments, firstOfEachPair) {
 INSTANTIATE_TEST_SUITE_P(, CheckedArguments, testing::ValuesIn(allFunctions()),
                          [](const auto& tested) { return tested.param.name; });
 
+// The inverse of one element is the entry function's own work, which needs no scratch.
+TEST(Checks, ofOneElementToInvert) {
+    for (const Function& function : functionsOf("Invert")) {
+        for (const auto& [element, status, result] :
+             {std::tuple(0.0, singular, 0.0), std::tuple(2.0, 0, 0.5)}) {
+            float as32f = static_cast<float>(element);
+            double as64f = element;
+            void* matrix = &as64f;
+            if (function.elementSize == sizeof as32f) matrix = &as32f;
+            std::vector<Value> values = faultlessValues(function);
+            for (std::size_t k = 0; k < values.size(); ++k) {
+                const std::string& name = function.arguments[k].name;
+                if (name.starts_with("pp")) values[k].pointer = &matrix;
+                if (name == "pSrc" || name == "pDst") values[k].pointer = matrix;
+            }
+            expectStatus(function, values, status, "matrix of " + std::to_string(element));
+            EXPECT_EQ(function.elementSize == sizeof as32f ? as32f : as64f, result) << function;
+        }
+    }
+}
+
 // The shapes above and the types and layouts make exactly the functions that are built.
 TEST(Checks, coverEveryFunction) {
-    const std::pair<std::string_view, std::size_t> expected[] = {
-        {"Add", 54}, {"Sub", 88}, {"EigenValuesSym", 10}, {"EigenValuesVectorsSym", 10}};
+    const std::pair<std::string_view, std::size_t> expected[] = {{"Add", 54},
+                                                                 {"Sub", 88},
+                                                                 {"Mul", 88},
+                                                                 {"Det", 10},
+                                                                 {"Invert", 10},
+                                                                 {"EigenValuesSym", 10},
+                                                                 {"EigenValuesVectorsSym", 10}};
     std::size_t functions = 0;
     for (const auto& [operation, count] : expected) {
         EXPECT_EQ(functionsOf(operation).size(), count) << operation;

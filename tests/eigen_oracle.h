@@ -2,7 +2,7 @@
 // sweep written out. Tests compare the library with it bit by bit.
 #pragma once
 
-#include "harness/function.h"
+#include "harness/matrix.h"
 #include "qorm/types.h"
 
 #include <cmath>
@@ -11,6 +11,8 @@
 #include <vector>
 
 namespace eigen_oracle {
+
+using harness::Matrix;
 
 // In what the functions of the two families differ.
 struct Rules {
@@ -30,14 +32,6 @@ inline Rules rulesOf(const harness::Function& function) {
     }
     return {false, function.array && (is32f || !isP), function.array, false, false};
 }
-
-template <class T>
-struct Matrix {
-    int n;
-    std::vector<T> elements;
-
-    T& operator()(int i, int j) { return elements.begin()[i * n + j]; }
-};
 
 // solve() overwrites W. Of a singular matrix of size 2 nothing is written; of one that does not
 // converge the values are meaningless and V is the product of reflectors and rotations so far.

@@ -15,7 +15,6 @@ namespace {
 
 using namespace harness;
 using eigen_oracle::Eigen;
-using eigen_oracle::Matrix;
 
 constexpr double infinity = std::numeric_limits<double>::infinity();
 
@@ -117,24 +116,6 @@ double unsettled(const Place& at, Random&) {
     return found(at.i, at.j);
 }
 
-template <class T>
-void setMatrix(const Operand& operand, int n, Matrix<T> matrix) {
-    for (int i = 0; i < matrix.n; ++i) {
-        for (int j = 0; j < matrix.n; ++j) operand.set<T>(n, i, j, matrix(i, j));
-    }
-}
-
-template <class T>
-Matrix<T> expectedMatrix(const Operand& operand, int n) {
-    Matrix<T> matrix{operand.rows, {}};
-    for (int i = 0; i < matrix.n; ++i) {
-        for (int j = 0; j < matrix.n; ++j) {
-            matrix.elements.push_back(operand.expected<T>(n, i, j));
-        }
-    }
-    return matrix;
-}
-
 Sizes sizesOf(int n, int count) {
     return {{"widthHeight", n}, {"count", count}};
 }
@@ -186,12 +167,6 @@ std::string faultOf(Call& call, const Function& function, const Library& library
         for (int j = 0; j < values.columns; ++j) values.expect(k, 0, j, values.get<T>(k, 0, j));
     }
     return call.difference();
-}
-
-template <class Work>
-auto withType(const Function& function, const Work& work) {
-    if (function.elementSize == 4) return work(float());
-    return work(double());
 }
 
 const Placement placements[] = {

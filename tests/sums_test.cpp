@@ -1,7 +1,7 @@
 // Sums and differences of matrices, element by element and bit by bit, wherever the operands lie.
-#include "harness/call.h"
+#include "harness/placements.h"
+#include "harness/thread_count.h"
 
-#include "qorcore.h"
 #include "qorm/types.h"
 
 #include <gtest/gtest.h>
@@ -75,31 +75,11 @@ void test(const Function& function, const Sizes& sizes, const Placement& placeme
     }
 }
 
-const Placement placements[] = {
-    {.name = "packed"},
-    {.name = "packed behind a guard page", .atFront = true},
-    {.name = "rows apart", .rowGap = 3, .shift = 5},
-    {.name = "objects apart", .objectGap = 2},
-    {.name = "elements apart", .elementGap = 1, .rowGap = 1, .objectGap = 1, .shift = 1},
+const std::vector<Placement> placements = usualPlacementsAnd({
     {.name = "only the second operand's elements apart", .elementGap = 2, .gapsOnlyIn = 1},
     {.name = "only the destination's rows apart", .rowGap = 2, .gapsOnlyIn = 2},
-    {.name = "misaligned", .misalignment = 1},
-    {.name = "by columns", .order = Placement::byColumns, .shift = 2},
-    {.name = "objects side by side", .order = Placement::byPosition},
-    {.name = "objects side by side, scattered, misaligned",
-     .order = Placement::byPosition,
-     .rowGap = 1,
-     .scattered = true,
-     .shift = 3,
-     .misalignment = 2},
-    {.name = "scattered", .elementGap = 1, .objectGap = 3, .scattered = true, .shift = 7},
-    {.name = "interleaved elements", .sharing = Placement::interleavedElements},
-    {.name = "interleaved elements, objects side by side",
-     .order = Placement::byPosition,
-     .sharing = Placement::interleavedElements},
-    {.name = "interleaved objects", .shift = 1, .sharing = Placement::interleavedObjects},
     {.name = "overlapping", .overlapping = true},
-};
+});
 
 struct Size {
     int width;
@@ -107,17 +87,6 @@ struct Size {
 };
 constexpr Size sizes[] = {{1, 1}, {2, 2}, {3, 3}, {4, 4}, {5, 5}, {6, 6},
                           {7, 7}, {1, 5}, {3, 4}, {4, 3}, {2, 5}, {67, 1}};
-
-class ThreadCount {
-public:
-    explicit ThreadCount(int threads) { qorSetThreadCount(threads); }
-    ~ThreadCount() { qorSetThreadCount(before_); }
-    ThreadCount(const ThreadCount&) = delete;
-    ThreadCount& operator=(const ThreadCount&) = delete;
-
-private:
-    std::int32_t before_ = qorGetThreadCount();
-};
 
 class Sums : public testing::TestWithParam<Function> {};
 
@@ -162,7 +131,7 @@ TEST_P(Sums, onThreads) {
     if (!function.array) return;
     for (const int threads : {2, 3, 7}) {
         const ThreadCount setting(threads);
-        for (const Placement& placement : {placements[0], placements[9]}) {
+        for (const Placement& placement : {packed, sideBySide}) {
             test(function, {{"width", 7}, {"height", 3}, {"count", 881}}, placement);
         }
     }

@@ -6,8 +6,11 @@
 #define QORM_H
 
 #include "qorm/add.h"
+#include "qorm/det.h"
 #include "qorm/eigenvaluessym.h"
 #include "qorm/eigenvaluesvectorssym.h"
+#include "qorm/invert.h"
+#include "qorm/mul.h"
 #include "qorm/sub.h"
 #include "qorm/types.h"
 #include "qorm/version.h"

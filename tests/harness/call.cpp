@@ -11,11 +11,6 @@
 namespace harness {
 namespace {
 
-bool isPlain(const Operand& operand) {
-    return operand.parameter.kind == Parameter::results ||
-           operand.parameter.kind == Parameter::scratch;
-}
-
 void setStrides(Operand& operand, const Placement& placement, bool withGaps, int sharers) {
     const std::int32_t size = operand.elementSize;
     if (placement.overlapping) {
@@ -41,7 +36,45 @@ void setStrides(Operand& operand, const Placement& placement, bool withGaps, int
         axis.stride = inner + axis.gap;
         inner = axis.stride * axis.extent;
     }
-    if (placement.sharing == Placement::interleavedObjects) operand.stride0 *= sharers;
+}
+
+std::ptrdiff_t lengthOf(const Placement::Step& step, const Operand& operand) {
+    return std::ptrdiff_t{step.objects} * operand.stride0 +
+           std::ptrdiff_t{step.rows} * operand.stride1 +
+           std::ptrdiff_t{step.elements} * operand.stride2;
+}
+
+// Sets strides. The result is where each operand begins in the block that it shares with others.
+std::vector<std::ptrdiff_t> arrange(const std::vector<Operand*>& operands,
+                                    const Placement& placement) {
+    std::vector<std::ptrdiff_t> offsets;
+    const int sharers = static_cast<int>(operands.size());
+    const Operand* source = nullptr;
+    std::int32_t structure = 0;
+    for (int k = 0; k < sharers; ++k) {
+        Operand& operand = *operands[static_cast<std::size_t>(k)];
+        const bool withGaps = placement.gapsOnlyIn < 0 || placement.gapsOnlyIn == k;
+        setStrides(operand, placement, withGaps, sharers);
+        if (operand.parameter.name == placement.destinationOn) source = &operand;
+        offsets.push_back(placement.sharing == Placement::interleavedElements
+                              ? k * operand.elementSize
+                          : placement.sharing == Placement::interleavedObjects ? structure
+                                                                               : 0);
+        structure += operand.stride0;
+    }
+    if (placement.sharing == Placement::interleavedObjects) {
+        for (Operand* operand : operands) operand->stride0 = structure;
+    }
+    if (source == nullptr) return offsets;
+    const std::ptrdiff_t distance = lengthOf(placement.behindBy, *source);
+    for (std::size_t k = 0; k < operands.size(); ++k) {
+        if (operands[k]->parameter.kind == Parameter::result) {
+            offsets[k] = std::max<std::ptrdiff_t>(0, distance);
+        } else if (operands[k] == source) {
+            offsets[k] = std::max<std::ptrdiff_t>(0, -distance);
+        }
+    }
+    return offsets;
 }
 
 std::ptrdiff_t spanOf(const Operand& operand) {
@@ -145,7 +178,11 @@ Call::Call(const Function& function, const Sizes& sizes, const Placement& placem
         operand.objects = parameter.array ? sizes.at("count") : 1;
         operand.rows = sizeOf(parameter.rows);
         operand.columns = sizeOf(parameter.columns);
-        operand.layout = isPlain(operand) ? Layout::S : function.layoutOf(parameter);
+        operand.layout = parameter.isPlain() ? Layout::S : function.layoutOf(parameter);
+        if (parameter.kind == Parameter::numberedScratch) { // in bytes
+            operand.columns = operand.columns * operand.elementSize + 4;
+            operand.elementSize = 1;
+        }
         operands_.push_back(operand);
     }
     place(placement);
@@ -157,41 +194,40 @@ Call::Call(const Function& function, const Sizes& sizes, const Placement& placem
     }
 }
 
-// Operands lie in blocks of their own, or interleaved in one: an array of structures.
+// Operands lie in blocks of their own, or interleaved in one: an array of structures. The destination
+// may lie in the block of a source.
 void Call::place(const Placement& placement) {
     Random random(seed_);
     std::vector<Operand*> matrices;
     for (Operand& operand : operands_) {
-        if (!isPlain(operand)) matrices.push_back(&operand);
+        if (!operand.parameter.isPlain()) matrices.push_back(&operand);
     }
-    const int sharers = static_cast<int>(matrices.size());
-    const auto offsetOf = [&](const Operand& operand) {
-        return placement.sharing == Placement::interleavedElements  ? operand.elementSize
-               : placement.sharing == Placement::interleavedObjects ? operand.stride0 / sharers
-                                                                    : 0;
-    };
     const auto take = [&](std::ptrdiff_t bytes) {
         return Region::take(bytes + placement.misalignment,
                             placement.atFront || placement.misalignment > 0, random());
     };
+    const std::vector<std::ptrdiff_t> offsets = arrange(matrices, placement);
+    const auto isSharing = [&](const Operand& operand) {
+        const bool overlaps = operand.parameter.kind == Parameter::result ||
+                              operand.parameter.name == placement.destinationOn;
+        return placement.sharing != Placement::apart ||
+               (overlaps && !placement.destinationOn.empty());
+    };
     std::ptrdiff_t most = 0;
-    for (int k = 0; k < sharers; ++k) {
-        Operand& operand = *matrices[static_cast<std::size_t>(k)];
-        const bool withGaps = placement.gapsOnlyIn < 0 || placement.gapsOnlyIn == k;
-        setStrides(operand, placement, withGaps, sharers);
-        most = std::max(most, spanOf(operand) + k * offsetOf(operand));
+    for (std::size_t k = 0; k < matrices.size(); ++k) {
+        if (isSharing(*matrices[k])) most = std::max(most, offsets[k] + spanOf(*matrices[k]));
     }
-    const auto shared = placement.sharing == Placement::apart ? nullptr : take(most);
-    for (int k = 0; k < sharers; ++k) {
-        Operand& operand = *matrices[static_cast<std::size_t>(k)];
-        operand.memory = shared ? shared : take(spanOf(operand));
-        operand.base = operand.memory->begin() + placement.misalignment + k * offsetOf(operand);
+    const auto shared = most > 0 ? take(most) : nullptr;
+    for (std::size_t k = 0; k < matrices.size(); ++k) {
+        Operand& operand = *matrices[k];
+        operand.memory = isSharing(operand) ? shared : take(spanOf(operand));
+        operand.base = operand.memory->begin() + placement.misalignment + offsets[k];
         if (operand.layout == Layout::S) continue;
         operand.shift = placement.shift * operand.elementSize;
         setTable(operand, placement.scattered, random);
     }
     for (Operand& operand : operands_) {
-        if (!isPlain(operand)) continue;
+        if (!operand.parameter.isPlain()) continue;
         setStrides(operand, {}, false, 1);
         operand.memory = take(spanOf(operand));
         operand.base = operand.memory->begin() + placement.misalignment;
@@ -204,9 +240,8 @@ const Operand& Call::operand(std::string_view name) const {
 }
 
 const Operand* Call::scratch() const {
-    const auto found = std::find_if(operands_.begin(), operands_.end(), [](const Operand& o) {
-        return o.parameter.kind == Parameter::scratch;
-    });
+    const auto found = std::find_if(operands_.begin(), operands_.end(),
+                                    [](const Operand& o) { return o.parameter.isScratch(); });
     return found == operands_.end() ? nullptr : &*found;
 }
 
@@ -220,8 +255,7 @@ Value Call::valueOf(const Argument& argument) const {
     if (argument.meaning == Argument::count || argument.meaning == Argument::size) {
         return {.number = sizes_.at(argument.name)};
     }
-    // Operands stand in front of the sizes, so their index is that of their parameter.
-    const Operand& operand = operands_[argument.parameter];
+    const Operand& operand = this->operand(function_.parameters[argument.parameter].name);
     switch (argument.meaning) {
     case Argument::stride0:
         return {.number = operand.stride0};
@@ -246,7 +280,10 @@ std::int32_t Call::run(const Library& library) {
 std::string Call::difference() const {
     std::ostringstream text;
     for (const Operand& operand : operands_) {
-        if (operand.parameter.kind == Parameter::scratch) operand.accept();
+        if (operand.parameter.isScratch()) {
+            operand.accept();
+            continue;
+        }
         if (operand.memory->firstDifference() == nullptr) continue;
         operand.forEachElement([&](int n, int i, int j) {
             const char* live = operand.address(n, i, j);

@@ -12,6 +12,11 @@ namespace harness {
 struct Placement {
     enum Order { byRows, byColumns, byPosition }; // byPosition: objects side by side
     enum Sharing { apart, interleavedElements, interleavedObjects };
+    struct Step {
+        int objects = 0;
+        int rows = 0;
+        int elements = 0;
+    };
 
     std::string_view name;
     Order order = byRows;
@@ -25,6 +30,8 @@ struct Placement {
     int misalignment = 0;
     bool atFront = false; // right behind an inaccessible page instead of right before one
     Sharing sharing = apart;
+    std::string_view destinationOn = {}; // a source, behind whose begin it begins by a step
+    Step behindBy = {};
 };
 
 class Operand {
@@ -102,6 +109,7 @@ public:
 
     const Operand& operand(std::string_view name) const;
     std::vector<Operand>& operands() { return operands_; }
+    const std::vector<Operand>& operands() const { return operands_; }
     const Operand* scratch() const;
     // The operand that is written last.
     const Operand& result() const;

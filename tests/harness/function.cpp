@@ -14,6 +14,7 @@ namespace {
 struct Family {
     std::string_view operations;
     std::vector<Parameter> parameters;
+    bool isProduct = false; // sizes are those of operands as stored, and the destination has none
 };
 
 const std::vector<Family>& families() {
@@ -36,6 +37,25 @@ const std::vector<Family>& families() {
           {result, "DstVectors", "widthHeight", "widthHeight"},
           {results, "DstValues", "1", "widthHeight"},
           {size, "widthHeight", "", ""}}},
+        {"Mul",
+         {{source, "Src1", "src1Height", "src1Width"},
+          {size, "src1Width", "", ""},
+          {size, "src1Height", "", ""},
+          {source, "Src2", "src2Height", "src2Width"},
+          {size, "src2Width", "", ""},
+          {size, "src2Height", "", ""},
+          {result, "Dst", "src1Height", "src2Width"}},
+         true},
+        {"Det",
+         {{source, "Src", "widthHeight", "widthHeight"},
+          {size, "widthHeight", "", ""},
+          {numberedScratch, "Buffer", "widthHeight", "widthHeight"},
+          {results, "Dst", "1", "1"}}},
+        {"Invert",
+         {{source, "Src", "widthHeight", "widthHeight"},
+          {numberedScratch, "Buffer", "widthHeight", "widthHeight"},
+          {result, "Dst", "widthHeight", "widthHeight"},
+          {size, "widthHeight", "", ""}}},
     };
     return table;
 }
@@ -52,6 +72,8 @@ std::vector<std::string> lettersOf(const std::string& shape) {
 }
 
 // Sources take the letters of the shape in their order; a destination is an array if any of them is.
+// Shared sizes are those of the result, so a transposed source is stored with them swapped. In
+// products it is the result whose rows or columns are named after the other size of its source.
 std::vector<Parameter> parametersOf(const Function& function) {
     const auto family =
         std::find_if(families().begin(), families().end(), [&](const Family& candidate) {
@@ -67,7 +89,13 @@ std::vector<Parameter> parametersOf(const Function& function) {
             const std::string& letter = letters.at(next++);
             parameter.array = letter.ends_with('a');
             parameter.transposed = letter.starts_with('t');
-            if (parameter.transposed) std::swap(parameter.rows, parameter.columns);
+            if (!parameter.transposed) continue;
+            if (!family->isProduct)
+                std::swap(parameter.rows, parameter.columns);
+            else if (next == 1)
+                parameters.back().rows = parameter.columns;
+            else
+                parameters.back().columns = parameter.rows;
         } else if (parameter.kind == Parameter::result || parameter.kind == Parameter::results) {
             parameter.array = function.array;
         }
@@ -86,7 +114,7 @@ std::vector<Argument> argumentsOf(const Function& function) {
             add(Argument::size, parameter.name);
             continue;
         }
-        if (parameter.kind == Parameter::results || parameter.kind == Parameter::scratch) {
+        if (parameter.isPlain()) {
             add(Argument::pointer, "p" + parameter.name);
             continue;
         }
@@ -130,6 +158,20 @@ Function functionOf(const std::string& name) {
     function.parameters = parametersOf(function);
     function.arguments = argumentsOf(function);
     return function;
+}
+
+Sizes productSizes(const Function& function, int rows, int inner, int columns, int count) {
+    Sizes sizes = {{"count", count}};
+    const auto set = [&](const std::string& name, int readRows, int readColumns) {
+        for (const Parameter& parameter : function.parameters) {
+            if (parameter.name != name) continue;
+            sizes[parameter.transposed ? parameter.columns : parameter.rows] = readRows;
+            sizes[parameter.transposed ? parameter.rows : parameter.columns] = readColumns;
+        }
+    };
+    set("Src1", rows, inner);
+    set("Src2", inner, columns);
+    return sizes;
 }
 
 std::ostream& operator<<(std::ostream& out, const Function& function) {

@@ -16,14 +16,19 @@ enum class Layout { S, P, L };
 // One parameter in the sense of the interface's description: an operand stands for several
 // arguments. Rows and columns are the names of the sizes that give them, or a number.
 struct Parameter {
-    enum Kind { source, result, results, scratch, size };
+    enum Kind { source, result, results, scratch, numberedScratch, size };
 
-    Kind kind; // `results` are a plain array, a run of `columns` elements per object
+    // `results` are a plain array, a run of `columns` elements per object; numbered scratch has a
+    // 32-bit integer for each row behind its elements.
+    Kind kind;
     std::string name;
     std::string rows;
     std::string columns;
     bool array = false;
     bool transposed = false;
+
+    bool isScratch() const { return kind == scratch || kind == numberedScratch; }
+    bool isPlain() const { return kind == results || isScratch(); }
 };
 
 struct Argument {
@@ -51,8 +56,18 @@ struct Function {
     bool isOneOf(std::string_view operations, std::string_view shapes) const;
 };
 
-// By name: "width", "height", "widthHeight", "count".
+// By name: "width", "height", "widthHeight", "src1Width", "count".
 using Sizes = std::map<std::string, int>;
+
+// Sizes of a product's operands, as its shape reads them: rows x inner by inner x columns.
+Sizes productSizes(const Function& function, int rows, int inner, int columns, int count);
+
+// work(float()) or work(double())
+template <class Work>
+auto withType(const Function& function, const Work& work) {
+    if (function.elementSize == 4) return work(float());
+    return work(double());
+}
 
 Function functionOf(const std::string& name);
 std::ostream& operator<<(std::ostream& out, const Function& function);

@@ -62,10 +62,7 @@ constexpr Form<Measure> form(Kind first, Kind second, Layout layout) {
 template <Kind kind, class Operand>
 auto objectOf(const Operand& operand, std::ptrdiff_t n, std::ptrdiff_t width,
               std::ptrdiff_t height) {
-    if constexpr (isTransposed(kind))
-        return Transposed{operand.object(n, height)};
-    else
-        return operand.object(n, width);
+    return asRead<kind>(operand.object(n, isTransposed(kind) ? height : width));
 }
 
 template <class Sign, Kind first, Kind second, class A, class B, class D, class Width, class Height>

@@ -5,28 +5,46 @@
 #include "frame/operands.h"
 
 #include <array>
+#include <optional>
 
 namespace qorm {
 
 // One kind of argument check, over all groups of a call.
-enum class Check { none, null, count, size, stride, shift };
+enum class Check { none, null, count, size, match, stride, shift };
 
-using CheckOrder = std::array<Check, 5>;
+using CheckOrder = std::array<Check, 6>;
 
 // What an entry function needs to know of itself: the order of its checks, the measure of its work
-// (of the sizes and the count in their argument order, in wrapping 32-bit arithmetic) and the
-// smallest measures that go to the driver.
+// (of the sizes and the count in their argument order, in wrapping 32-bit arithmetic; single objects
+// have a count of 1) and the smallest measures that go to the driver.
+//
+// A form may answer some calls itself, past the checks: it then has a member answer(groups...) that
+// returns an optional status.
 template <class Measure>
-struct Form {
+struct Form;
+
+template <class... Sizes>
+struct Form<std::uint32_t(Sizes...)> {
     CheckOrder checks;
-    Measure* measure;
+    std::uint32_t (*measure)(Sizes...);
     std::int32_t contiguousThreshold;
     std::int32_t generalThreshold;
-    bool alwaysGeneral = false; // never takes its contiguous core
+    bool alwaysGeneral = false;             // never takes its contiguous core
+    bool (*sizesMatch)(Sizes...) = nullptr; // for Check::match
 };
 
+// The sizes of a call and its count.
 template <class... Groups>
-qorStatus statusOf(Check check, const Groups&... groups) {
+auto sizesOf(const Groups&... groups) {
+    const auto sizes = std::tuple_cat(groups.sizes()...);
+    if constexpr ((std::is_same_v<Groups, Count> || ...))
+        return sizes;
+    else
+        return std::tuple_cat(sizes, std::tuple(std::uint32_t{1}));
+}
+
+template <class Form, class... Groups>
+qorStatus statusOf(Check check, const Form& form, const Groups&... groups) {
     switch (check) {
     case Check::null:
         return (groups.isNull() || ...) ? qorStatusNullPointer : qorStatusOk;
@@ -34,6 +52,9 @@ qorStatus statusOf(Check check, const Groups&... groups) {
         return (groups.hasBadCount() || ...) ? qorStatusBadCount : qorStatusOk;
     case Check::size:
         return (groups.hasBadSize() || ...) ? qorStatusBadSize : qorStatusOk;
+    case Check::match:
+        return std::apply(form.sizesMatch, sizesOf(groups...)) ? qorStatusOk
+                                                               : qorStatusSizeMismatch;
     case Check::stride:
         return (groups.hasBadStride() || ...) ? qorStatusBadStride : qorStatusOk;
     case Check::shift:
@@ -44,12 +65,20 @@ qorStatus statusOf(Check check, const Groups&... groups) {
     return qorStatusOk;
 }
 
-template <class... Groups>
-qorStatus firstFault(const CheckOrder& checks, const Groups&... groups) {
-    for (const Check check : checks) {
-        if (const qorStatus status = statusOf(check, groups...)) return status;
+template <class Form, class... Groups>
+qorStatus firstFault(const Form& form, const Groups&... groups) {
+    for (const Check check : form.checks) {
+        if (const qorStatus status = statusOf(check, form, groups...)) return status;
     }
     return qorStatusOk;
+}
+
+template <class Form, class... Groups>
+std::optional<qorStatus> answerOf(const Form& form, const Groups&... groups) {
+    if constexpr (requires { form.answer(groups...); })
+        return form.answer(groups...);
+    else
+        return std::nullopt;
 }
 
 // Hands a call to the core of its access pattern.
@@ -62,7 +91,8 @@ qorStatus callCore(const Groups&... groups) {
 // Entry of a form on single objects, which never fans out.
 template <auto core, auto generalCore, class Form, class... Groups>
 qorStatus enterSingle(const Form& form, const Groups&... groups) {
-    if (const qorStatus fault = firstFault(form.checks, groups...)) return fault;
+    if (const qorStatus fault = firstFault(form, groups...)) return fault;
+    if (const auto answer = answerOf(form, groups...)) return *answer;
     if (form.alwaysGeneral) return call(generalCore, groups...);
     return callCore<core, generalCore>(groups...);
 }
@@ -70,8 +100,9 @@ qorStatus enterSingle(const Form& form, const Groups&... groups) {
 // Entry of a form on arrays.
 template <auto core, auto generalCore, auto driver, class Form, class... Groups>
 qorStatus enterArray(const Form& form, const Groups&... groups) {
-    if (const qorStatus fault = firstFault(form.checks, groups...)) return fault;
-    const std::uint32_t measure = std::apply(form.measure, std::tuple_cat(groups.sizes()...));
+    if (const qorStatus fault = firstFault(form, groups...)) return fault;
+    if (const auto answer = answerOf(form, groups...)) return *answer;
+    const std::uint32_t measure = std::apply(form.measure, sizesOf(groups...));
     const bool contiguous = (groups.isContiguous() && ...);
     const std::int32_t threshold = contiguous ? form.contiguousThreshold : form.generalThreshold;
     if (static_cast<std::int32_t>(measure) >= threshold) return call(driver, groups...);

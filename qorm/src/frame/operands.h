@@ -25,6 +25,15 @@ constexpr bool isTransposed(Kind kind) {
     return kind == Kind::t || kind == Kind::ta;
 }
 
+// A stored matrix as a shape's letter reads it.
+template <Kind kind, class Matrix>
+auto asRead(const Matrix& matrix) {
+    if constexpr (isTransposed(kind))
+        return Transposed{matrix};
+    else
+        return matrix;
+}
+
 enum class Layout { S, P, L };
 
 // What one thread of a fan-out works on.
@@ -73,6 +82,7 @@ template <class T, bool array, bool contiguousRows>
 struct Strided : Group {
     using Element = T;
     static constexpr Layout layout = Layout::S;
+    static constexpr bool hasContiguousRows = contiguousRows;
 
     T* base;
     std::int32_t stride0;
@@ -123,6 +133,7 @@ template <class T, bool array>
 struct Pointers : Group {
     using Element = T;
     static constexpr Layout layout = Layout::P;
+    static constexpr bool hasContiguousRows = false;
 
     T* const* table;
     std::int32_t shift;
@@ -166,6 +177,7 @@ template <class T, bool contiguousRows>
 struct List : Group {
     using Element = T;
     static constexpr Layout layout = Layout::L;
+    static constexpr bool hasContiguousRows = contiguousRows;
 
     T* const* table;
     std::int32_t shift;
@@ -218,25 +230,22 @@ struct Plain : Group {
     }
 };
 
-// Scratch of rows * columns elements for one object at a time. The threads of a fan-out get a slice
-// each of a block that the driver allocates.
+// Scratch for one object at a time. The threads of a fan-out get a slice of so many elements each
+// of a block that the driver allocates.
 template <class T>
 struct Scratch : Group {
     T* base;
-    std::int32_t rows;
-    std::int32_t columns;
+    std::int64_t elements;
 
-    Scratch(T* p, std::int32_t r, std::int32_t c) : base(p), rows(r), columns(c) {}
+    Scratch(T* p, std::int64_t perThread) : base(p), elements(perThread) {}
 
     bool isNull() const { return base == nullptr; }
-    std::size_t scratchBytes() const {
-        return sizeof(T) * static_cast<std::size_t>(rows) * static_cast<std::size_t>(columns);
-    }
+    std::size_t scratchBytes() const { return sizeof(T) * static_cast<std::size_t>(elements); }
 
     Scratch contiguous() const { return *this; }
     Scratch share(const Share& share) const {
         char* slice = share.scratch + static_cast<std::size_t>(share.thread) * scratchBytes();
-        return {reinterpret_cast<T*>(slice), rows, columns};
+        return {reinterpret_cast<T*>(slice), elements};
     }
     auto arguments() const { return std::tuple(base); }
 };

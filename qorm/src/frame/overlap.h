@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <iterator>
 
 namespace qorm {
 
@@ -130,8 +131,9 @@ bool hasDistinctElements(const Operand& operand, std::ptrdiff_t rows, std::ptrdi
 template <class T, bool array>
 bool hasDistinctElements(const Pointers<T, array>& operand, std::ptrdiff_t rows,
                          std::ptrdiff_t columns, int live) {
-    const std::ptrdiff_t objects = operand.hasObjectsSideBySide() ? live : 1;
     T* sorted[mostLaneSize * mostLaneSize];
+    if (rows * columns > std::ssize(sorted)) return false;
+    const std::ptrdiff_t objects = operand.hasObjectsSideBySide() ? live : 1;
     T** const end = std::copy(operand.table, operand.table + rows * columns, sorted);
     std::sort(sorted, end);
     return std::adjacent_find(sorted, end, [&](T* lower, T* upper) {
@@ -175,6 +177,27 @@ Bytes spanOfPositions(const Matrix& matrix, std::ptrdiff_t rows, std::ptrdiff_t 
         }
     }
     return all;
+}
+
+// Whether no run of elements of one matrix overlaps one of the other.
+template <class Src, class Dst>
+bool positionsAreApart(const Src& src, std::ptrdiff_t srcRows, std::ptrdiff_t srcColumns,
+                       std::ptrdiff_t srcCount, const Dst& dst, std::ptrdiff_t dstRows,
+                       std::ptrdiff_t dstColumns, std::ptrdiff_t dstCount) {
+    constexpr std::ptrdiff_t elementSize{sizeof(*src(0, 0).address())};
+    const std::ptrdiff_t readBytes = srcCount * elementSize;
+    const std::ptrdiff_t writtenBytes = dstCount * elementSize;
+    if (!overlap(spanOfPositions(src, srcRows, srcColumns, readBytes),
+                 spanOfPositions(dst, dstRows, dstColumns, writtenBytes))) {
+        return true;
+    }
+    for (std::ptrdiff_t position = 0; position < dstRows * dstColumns; ++position) {
+        const Bytes written = bytesAt(dst, position, dstColumns, writtenBytes);
+        for (std::ptrdiff_t other = 0; other < srcRows * srcColumns; ++other) {
+            if (overlap(bytesAt(src, other, srcColumns, readBytes), written)) return false;
+        }
+    }
+    return true;
 }
 
 // Whether both matrices lie in the same places, position by position, and these follow one another.
@@ -228,6 +251,46 @@ bool shareOnlyPositions(const Src& src, const Dst& dst, std::ptrdiff_t rows, std
     return src.hasObjectsSideBySide() && dst.hasObjectsSideBySide() &&
            positionsAreIndependent(src.object(0, columns), live, dst.object(0, columns), columns,
                                    rows, live);
+}
+
+// Which runs of objects may be read all before the first of them is written.
+template <class Reads, class Writes>
+class ReadAhead {
+public:
+    ReadAhead(const Reads& read, const Writes& written, std::ptrdiff_t count)
+        : reads(read), writes(written) {
+        if constexpr (std::is_same_v<Reads, RegularSpans> && std::is_same_v<Writes, RegularSpans>) {
+            always = areApart(reads, writes, count);
+        }
+    }
+
+    bool allows(std::ptrdiff_t first, int live) const {
+        return always || (!never && mayReadAhead(reads, writes, first, live));
+    }
+
+    void allowAlways() { always = true; }
+    void allowNever() {
+        always = false;
+        never = true;
+    }
+
+private:
+    Reads reads;
+    Writes writes;
+    bool always = false;
+    bool never = false;
+};
+
+// The same for two square matrices of n rows, whose elements are written in any order.
+template <class Src, class Dst>
+auto readAheadOf(const Src& src, const Dst& dst, std::ptrdiff_t n, std::ptrdiff_t count,
+                 int lanes) {
+    ReadAhead guard(spansOf(src, n, n), spansOf(dst, n, n), count);
+    if (!hasDistinctElements(dst, n, n, lanes))
+        guard.allowNever();
+    else if (shareOnlyPositions(src, dst, n, n, lanes))
+        guard.allowAlways();
+    return guard;
 }
 
 } // namespace qorm

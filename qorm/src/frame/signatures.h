@@ -78,8 +78,26 @@
 #define GROUP_widthHeight_m qorm::Size(widthHeight)
 #define GROUP_widthHeight_ma GROUP_widthHeight_m, qorm::Count(count)
 
-// Scratch of widthHeight * widthHeight elements, and a plain array of widthHeight results.
+// In products each operand has sizes of its own, those in which it is stored.
+#define PARAM_width_height_1 std::int32_t src1Width, std::int32_t src1Height
+#define PARAM_width_height_2 std::int32_t src2Width, std::int32_t src2Height
+#define GROUP_width_height_1 qorm::Size(src1Width), qorm::Size(src1Height)
+#define GROUP_width_height_2 qorm::Size(src2Width), qorm::Size(src2Height)
+
+// Scratch of widthHeight * widthHeight elements, which may go with a table of row numbers, and
+// plain arrays of widthHeight results or of one.
 #define PARAM_buffer(T) T* pBuffer
-#define GROUP_buffer(T) qorm::Scratch<T>(pBuffer, widthHeight, widthHeight)
+#define GROUP_buffer(T) qorm::Scratch<T>(pBuffer, std::int64_t{widthHeight} * widthHeight)
+#define PARAM_rowsBuffer(T) T* pBuffer
+#define GROUP_rowsBuffer(T) \
+    qorm::Scratch<T>(pBuffer, std::int64_t{widthHeight} * (std::int64_t{widthHeight} + 1))
 #define PARAM_values(T) T* pDstValues
 #define GROUP_values(T) qorm::Plain<T>(pDstValues, widthHeight)
+#define PARAM_value(T) T* pDst
+#define GROUP_value(T) qorm::Plain<T>(pDst, 1)
+
+// Behind a list's last group where array forms go on with their count.
+#define PARAM_count_m
+#define PARAM_count_ma , std::int32_t count
+#define GROUP_count_m
+#define GROUP_count_ma , qorm::Count(count)

@@ -9,6 +9,11 @@ namespace qorm {
 template <std::ptrdiff_t value>
 using Fixed = std::integral_constant<std::ptrdiff_t, value>;
 
+template <class N>
+inline constexpr bool isFixed = false;
+template <std::ptrdiff_t value>
+inline constexpr bool isFixed<Fixed<value>> = true;
+
 template <std::ptrdiff_t width, std::ptrdiff_t height>
 constexpr Fixed<width * height> area(Fixed<width>, Fixed<height>) {
     return {};
@@ -17,21 +22,32 @@ constexpr std::ptrdiff_t area(std::ptrdiff_t width, std::ptrdiff_t height) {
     return width * height;
 }
 
+// Calls work(n) with a constant for sizes 3 to 6.
+template <class Work>
+auto withStaticSize(std::ptrdiff_t n, const Work& work) {
+    switch (n) {
+    case 3:
+        return work(Fixed<3>());
+    case 4:
+        return work(Fixed<4>());
+    case 5:
+        return work(Fixed<5>());
+    case 6:
+        return work(Fixed<6>());
+    default:
+        return work(n);
+    }
+}
+
 // Calls work(width, height) with constants for the squares of 3 to 6.
 template <class Work>
 void withStaticSquare(std::ptrdiff_t width, std::ptrdiff_t height, const Work& work) {
-    switch (width == height ? width : 0) {
-    case 3:
-        return work(Fixed<3>(), Fixed<3>());
-    case 4:
-        return work(Fixed<4>(), Fixed<4>());
-    case 5:
-        return work(Fixed<5>(), Fixed<5>());
-    case 6:
-        return work(Fixed<6>(), Fixed<6>());
-    default:
-        return work(width, height);
-    }
+    withStaticSize(width == height ? width : 0, [&](auto n) {
+        if constexpr (isFixed<decltype(n)>)
+            work(n, n);
+        else
+            work(width, height);
+    });
 }
 
 // The largest size that lanes of a size known at run time are made for: two matrices of packs on
@@ -50,18 +66,7 @@ constexpr bool isLaneSize(std::ptrdiff_t n) {
 // work(n) for the sizes that are done in lanes, with constants for 3 to 6; false for others.
 template <class Work>
 bool withLaneSize(std::ptrdiff_t n, const Work& work) {
-    switch (n) {
-    case 3:
-        return work(Fixed<3>());
-    case 4:
-        return work(Fixed<4>());
-    case 5:
-        return work(Fixed<5>());
-    case 6:
-        return work(Fixed<6>());
-    default:
-        return n > 6 && n <= mostLaneSize && work(n);
-    }
+    return isLaneSize(n) && withStaticSize(n, work);
 }
 
 } // namespace qorm

@@ -1,0 +1,22 @@
+// Rows of n elements in memory as Eigen's matrices of fixed size.
+#pragma once
+
+#include <Eigen/Core>
+#include <type_traits>
+
+namespace bench {
+
+template <class T, int n>
+using EigenMatrix = Eigen::Matrix<T, n, n, Eigen::RowMajor>;
+
+// A map with an explicit step is never taken for one run of elements, even if it is one.
+template <int n, int rowStep>
+using EigenStride =
+    std::conditional_t<rowStep == n, Eigen::Stride<0, 0>, Eigen::OuterStride<rowStep>>;
+
+template <class T, int n, int rowStep>
+using ConstMap = Eigen::Map<const EigenMatrix<T, n>, 0, EigenStride<n, rowStep>>;
+template <class T, int n, int rowStep>
+using Map = Eigen::Map<EigenMatrix<T, n>, 0, EigenStride<n, rowStep>>;
+
+} // namespace bench

@@ -1,0 +1,599 @@
+/** @file mul.h
+ *  Products of matrices.
+ *
+ *  Shapes. `src1Width`, `src1Height`, `src2Width` and `src2Height` are the sizes of the operands
+ *  **as they lie in memory**, also where they are read transposed (`t`, `ta`). Those of the
+ *  destination follow:
+ *
+ *      letters   dst(i,j) = sum over k of   dst height   dst width    have to be equal
+ *      m, m      A(i,k) * B(k,j)            src1Height   src2Width    src1Width  and src2Height
+ *      t, m      A(k,i) * B(k,j)            src1Width    src2Width    src1Height and src2Height
+ *      m, t      A(i,k) * B(j,k)            src1Height   src2Height   src1Width  and src2Width
+ *      t, t      A(k,i) * B(j,k)            src1Width    src2Height   src1Height and src2Width
+ *
+ *  An `a` behind a letter changes nothing in this table. In array forms the destination is an
+ *  array of `count` matrices and a single operand serves every object.
+ *
+ *  Arithmetic. Each sum runs over ascending k from left to right, every product and every sum
+ *  rounded to the element type: no wider accumulator, no fused multiply-add. Where all four sizes
+ *  are 3, all 4, all 5 or all 6 it starts with the first product, at all other sizes with +0.
+ *  That shows in the sign of a zero alone: products that are all -0 add up to -0 in the former
+ *  and to +0 in the latter.
+ *
+ *  In place. Where all four sizes are 3, all 4, all 5 or all 6, the destination may coincide,
+ *  object for object, with the second operand; in `_P` forms it may as well coincide with the
+ *  first. That is for operands of the destination's kind: in array forms the destination must not
+ *  overlap a single operand. There are members where it must not coincide with the second operand
+ *  if any of `src1Stride2`, `src2Stride2` and `dstStride2` differs from the element size:
+ *
+ *      qormMul_mm_32f, qormMul_mma_32f_L, qormMul_mama_32f_L    at sizes 4 to 6
+ *      qormMul_mm_64f, qormMul_mma_64f_L, qormMul_mama_64f_L    at sizes 3 to 6
+ *
+ *  At all other sizes the destination must not overlap an operand in any way. Overlap is not
+ *  tested; it makes the product wrong.
+ *
+ *  **Two members treat small sizes in a way of their own**: #qormMul_mm_32f_P and
+ *  #qormMul_tt_64f_P. Where none of the four sizes is above 3, and there is a 3 among them or
+ *  both a 1 and a 2, they work as if all sizes were 3, with i, j and k from 0 to 2; only the rows
+ *  of the tables keep their lengths:
+ *
+ *      mm_32f_P    A(i,k) = ppSrc1[i*src1Width + k]    B(k,j) = ppSrc2[k*src2Width + j]
+ *      tt_64f_P    A(k,i) = ppSrc1[k*src1Width + i]    B(j,k) = ppSrc2[j*src2Width + k]
+ *      both        dst(i,j) = ppDst[i*src2Width + j]
+ *
+ *  So the tables need valid pointers up to entry 2*src1Width + 2 in `ppSrc1` and 2*src2Width + 2
+ *  in `ppSrc2` and `ppDst`: what lies behind the matrices is read and written, too. The product
+ *  is right only if the sizes that have to be equal are 3, and in `tt_64f_P` `src2Height`
+ *  besides. `mama_32f_P` and `tata_64f_P` with a count of 1 know no such case.
+ *
+ *  Statuses. None but that of a failed check is ever returned; NaN and infinity take their
+ *  course.
+ *
+ *  Layouts, units and statuses: qorm/types.h.
+ */
+#ifndef QORM_MUL_H
+#define QORM_MUL_H
+
+#include "qorm/types.h"
+
+#ifdef __cplusplus
+extern "C" {
+#endif
+
+/** @name Product of two matrices: dst = A * B, each as its letter reads it
+ *  Checks, in this order: null pointer, sizes, size match, strides (`_P`: shifts).
+ *  @{ */
+QORM_API qorStatus qormMul_mm_32f(const float* pSrc1, int32_t src1Stride1, int32_t src1Stride2,
+                                  int32_t src1Width, int32_t src1Height, const float* pSrc2,
+                                  int32_t src2Stride1, int32_t src2Stride2, int32_t src2Width,
+                                  int32_t src2Height, float* pDst, int32_t dstStride1,
+                                  int32_t dstStride2);
+QORM_API qorStatus qormMul_mm_32f_P(const float* const* ppSrc1, int32_t src1Shift,
+                                    int32_t src1Width, int32_t src1Height,
+                                    const float* const* ppSrc2, int32_t src2Shift,
+                                    int32_t src2Width, int32_t src2Height, float* const* ppDst,
+                                    int32_t dstShift);
+QORM_API qorStatus qormMul_mm_64f(const double* pSrc1, int32_t src1Stride1, int32_t src1Stride2,
+                                  int32_t src1Width, int32_t src1Height, const double* pSrc2,
+                                  int32_t src2Stride1, int32_t src2Stride2, int32_t src2Width,
+                                  int32_t src2Height, double* pDst, int32_t dstStride1,
+                                  int32_t dstStride2);
+QORM_API qorStatus qormMul_mm_64f_P(const double* const* ppSrc1, int32_t src1Shift,
+                                    int32_t src1Width, int32_t src1Height,
+                                    const double* const* ppSrc2, int32_t src2Shift,
+                                    int32_t src2Width, int32_t src2Height, double* const* ppDst,
+                                    int32_t dstShift);
+QORM_API qorStatus qormMul_tm_32f(const float* pSrc1, int32_t src1Stride1, int32_t src1Stride2,
+                                  int32_t src1Width, int32_t src1Height, const float* pSrc2,
+                                  int32_t src2Stride1, int32_t src2Stride2, int32_t src2Width,
+                                  int32_t src2Height, float* pDst, int32_t dstStride1,
+                                  int32_t dstStride2);
+QORM_API qorStatus qormMul_tm_32f_P(const float* const* ppSrc1, int32_t src1Shift,
+                                    int32_t src1Width, int32_t src1Height,
+                                    const float* const* ppSrc2, int32_t src2Shift,
+                                    int32_t src2Width, int32_t src2Height, float* const* ppDst,
+                                    int32_t dstShift);
+QORM_API qorStatus qormMul_tm_64f(const double* pSrc1, int32_t src1Stride1, int32_t src1Stride2,
+                                  int32_t src1Width, int32_t src1Height, const double* pSrc2,
+                                  int32_t src2Stride1, int32_t src2Stride2, int32_t src2Width,
+                                  int32_t src2Height, double* pDst, int32_t dstStride1,
+                                  int32_t dstStride2);
+QORM_API qorStatus qormMul_tm_64f_P(const double* const* ppSrc1, int32_t src1Shift,
+                                    int32_t src1Width, int32_t src1Height,
+                                    const double* const* ppSrc2, int32_t src2Shift,
+                                    int32_t src2Width, int32_t src2Height, double* const* ppDst,
+                                    int32_t dstShift);
+QORM_API qorStatus qormMul_mt_32f(const float* pSrc1, int32_t src1Stride1, int32_t src1Stride2,
+                                  int32_t src1Width, int32_t src1Height, const float* pSrc2,
+                                  int32_t src2Stride1, int32_t src2Stride2, int32_t src2Width,
+                                  int32_t src2Height, float* pDst, int32_t dstStride1,
+                                  int32_t dstStride2);
+QORM_API qorStatus qormMul_mt_32f_P(const float* const* ppSrc1, int32_t src1Shift,
+                                    int32_t src1Width, int32_t src1Height,
+                                    const float* const* ppSrc2, int32_t src2Shift,
+                                    int32_t src2Width, int32_t src2Height, float* const* ppDst,
+                                    int32_t dstShift);
+QORM_API qorStatus qormMul_mt_64f(const double* pSrc1, int32_t src1Stride1, int32_t src1Stride2,
+                                  int32_t src1Width, int32_t src1Height, const double* pSrc2,
+                                  int32_t src2Stride1, int32_t src2Stride2, int32_t src2Width,
+                                  int32_t src2Height, double* pDst, int32_t dstStride1,
+                                  int32_t dstStride2);
+QORM_API qorStatus qormMul_mt_64f_P(const double* const* ppSrc1, int32_t src1Shift,
+                                    int32_t src1Width, int32_t src1Height,
+                                    const double* const* ppSrc2, int32_t src2Shift,
+                                    int32_t src2Width, int32_t src2Height, double* const* ppDst,
+                                    int32_t dstShift);
+QORM_API qorStatus qormMul_tt_32f(const float* pSrc1, int32_t src1Stride1, int32_t src1Stride2,
+                                  int32_t src1Width, int32_t src1Height, const float* pSrc2,
+                                  int32_t src2Stride1, int32_t src2Stride2, int32_t src2Width,
+                                  int32_t src2Height, float* pDst, int32_t dstStride1,
+                                  int32_t dstStride2);
+QORM_API qorStatus qormMul_tt_32f_P(const float* const* ppSrc1, int32_t src1Shift,
+                                    int32_t src1Width, int32_t src1Height,
+                                    const float* const* ppSrc2, int32_t src2Shift,
+                                    int32_t src2Width, int32_t src2Height, float* const* ppDst,
+                                    int32_t dstShift);
+QORM_API qorStatus qormMul_tt_64f(const double* pSrc1, int32_t src1Stride1, int32_t src1Stride2,
+                                  int32_t src1Width, int32_t src1Height, const double* pSrc2,
+                                  int32_t src2Stride1, int32_t src2Stride2, int32_t src2Width,
+                                  int32_t src2Height, double* pDst, int32_t dstStride1,
+                                  int32_t dstStride2);
+QORM_API qorStatus qormMul_tt_64f_P(const double* const* ppSrc1, int32_t src1Shift,
+                                    int32_t src1Width, int32_t src1Height,
+                                    const double* const* ppSrc2, int32_t src2Shift,
+                                    int32_t src2Width, int32_t src2Height, double* const* ppDst,
+                                    int32_t dstShift);
+/** @} */
+
+/** @name Product of each matrix of an array and one matrix: dst_n = A_n * B
+ *  Checks, in this order: null pointer, count, sizes, size match, strides, shifts (`_P`, `_L`).
+ *  @{ */
+QORM_API qorStatus qormMul_mam_32f(const float* pSrc1, int32_t src1Stride0, int32_t src1Stride1,
+                                   int32_t src1Stride2, int32_t src1Width, int32_t src1Height,
+                                   const float* pSrc2, int32_t src2Stride1, int32_t src2Stride2,
+                                   int32_t src2Width, int32_t src2Height, float* pDst,
+                                   int32_t dstStride0, int32_t dstStride1, int32_t dstStride2,
+                                   int32_t count);
+QORM_API qorStatus qormMul_mam_32f_P(const float* const* ppSrc1, int32_t src1Shift,
+                                     int32_t src1Stride0, int32_t src1Width, int32_t src1Height,
+                                     const float* const* ppSrc2, int32_t src2Shift,
+                                     int32_t src2Width, int32_t src2Height, float* const* ppDst,
+                                     int32_t dstShift, int32_t dstStride0, int32_t count);
+QORM_API qorStatus qormMul_mam_32f_L(const float* const* ppSrc1, int32_t src1Shift,
+                                     int32_t src1Stride1, int32_t src1Stride2, int32_t src1Width,
+                                     int32_t src1Height, const float* pSrc2, int32_t src2Stride1,
+                                     int32_t src2Stride2, int32_t src2Width, int32_t src2Height,
+                                     float* const* ppDst, int32_t dstShift, int32_t dstStride1,
+                                     int32_t dstStride2, int32_t count);
+QORM_API qorStatus qormMul_mam_64f(const double* pSrc1, int32_t src1Stride0, int32_t src1Stride1,
+                                   int32_t src1Stride2, int32_t src1Width, int32_t src1Height,
+                                   const double* pSrc2, int32_t src2Stride1, int32_t src2Stride2,
+                                   int32_t src2Width, int32_t src2Height, double* pDst,
+                                   int32_t dstStride0, int32_t dstStride1, int32_t dstStride2,
+                                   int32_t count);
+QORM_API qorStatus qormMul_mam_64f_P(const double* const* ppSrc1, int32_t src1Shift,
+                                     int32_t src1Stride0, int32_t src1Width, int32_t src1Height,
+                                     const double* const* ppSrc2, int32_t src2Shift,
+                                     int32_t src2Width, int32_t src2Height, double* const* ppDst,
+                                     int32_t dstShift, int32_t dstStride0, int32_t count);
+QORM_API qorStatus qormMul_mam_64f_L(const double* const* ppSrc1, int32_t src1Shift,
+                                     int32_t src1Stride1, int32_t src1Stride2, int32_t src1Width,
+                                     int32_t src1Height, const double* pSrc2, int32_t src2Stride1,
+                                     int32_t src2Stride2, int32_t src2Width, int32_t src2Height,
+                                     double* const* ppDst, int32_t dstShift, int32_t dstStride1,
+                                     int32_t dstStride2, int32_t count);
+QORM_API qorStatus qormMul_tam_32f(const float* pSrc1, int32_t src1Stride0, int32_t src1Stride1,
+                                   int32_t src1Stride2, int32_t src1Width, int32_t src1Height,
+                                   const float* pSrc2, int32_t src2Stride1, int32_t src2Stride2,
+                                   int32_t src2Width, int32_t src2Height, float* pDst,
+                                   int32_t dstStride0, int32_t dstStride1, int32_t dstStride2,
+                                   int32_t count);
+QORM_API qorStatus qormMul_tam_32f_P(const float* const* ppSrc1, int32_t src1Shift,
+                                     int32_t src1Stride0, int32_t src1Width, int32_t src1Height,
+                                     const float* const* ppSrc2, int32_t src2Shift,
+                                     int32_t src2Width, int32_t src2Height, float* const* ppDst,
+                                     int32_t dstShift, int32_t dstStride0, int32_t count);
+QORM_API qorStatus qormMul_tam_32f_L(const float* const* ppSrc1, int32_t src1Shift,
+                                     int32_t src1Stride1, int32_t src1Stride2, int32_t src1Width,
+                                     int32_t src1Height, const float* pSrc2, int32_t src2Stride1,
+                                     int32_t src2Stride2, int32_t src2Width, int32_t src2Height,
+                                     float* const* ppDst, int32_t dstShift, int32_t dstStride1,
+                                     int32_t dstStride2, int32_t count);
+QORM_API qorStatus qormMul_tam_64f(const double* pSrc1, int32_t src1Stride0, int32_t src1Stride1,
+                                   int32_t src1Stride2, int32_t src1Width, int32_t src1Height,
+                                   const double* pSrc2, int32_t src2Stride1, int32_t src2Stride2,
+                                   int32_t src2Width, int32_t src2Height, double* pDst,
+                                   int32_t dstStride0, int32_t dstStride1, int32_t dstStride2,
+                                   int32_t count);
+QORM_API qorStatus qormMul_tam_64f_P(const double* const* ppSrc1, int32_t src1Shift,
+                                     int32_t src1Stride0, int32_t src1Width, int32_t src1Height,
+                                     const double* const* ppSrc2, int32_t src2Shift,
+                                     int32_t src2Width, int32_t src2Height, double* const* ppDst,
+                                     int32_t dstShift, int32_t dstStride0, int32_t count);
+QORM_API qorStatus qormMul_tam_64f_L(const double* const* ppSrc1, int32_t src1Shift,
+                                     int32_t src1Stride1, int32_t src1Stride2, int32_t src1Width,
+                                     int32_t src1Height, const double* pSrc2, int32_t src2Stride1,
+                                     int32_t src2Stride2, int32_t src2Width, int32_t src2Height,
+                                     double* const* ppDst, int32_t dstShift, int32_t dstStride1,
+                                     int32_t dstStride2, int32_t count);
+QORM_API qorStatus qormMul_mat_32f(const float* pSrc1, int32_t src1Stride0, int32_t src1Stride1,
+                                   int32_t src1Stride2, int32_t src1Width, int32_t src1Height,
+                                   const float* pSrc2, int32_t src2Stride1, int32_t src2Stride2,
+                                   int32_t src2Width, int32_t src2Height, float* pDst,
+                                   int32_t dstStride0, int32_t dstStride1, int32_t dstStride2,
+                                   int32_t count);
+QORM_API qorStatus qormMul_mat_32f_P(const float* const* ppSrc1, int32_t src1Shift,
+                                     int32_t src1Stride0, int32_t src1Width, int32_t src1Height,
+                                     const float* const* ppSrc2, int32_t src2Shift,
+                                     int32_t src2Width, int32_t src2Height, float* const* ppDst,
+                                     int32_t dstShift, int32_t dstStride0, int32_t count);
+QORM_API qorStatus qormMul_mat_32f_L(const float* const* ppSrc1, int32_t src1Shift,
+                                     int32_t src1Stride1, int32_t src1Stride2, int32_t src1Width,
+                                     int32_t src1Height, const float* pSrc2, int32_t src2Stride1,
+                                     int32_t src2Stride2, int32_t src2Width, int32_t src2Height,
+                                     float* const* ppDst, int32_t dstShift, int32_t dstStride1,
+                                     int32_t dstStride2, int32_t count);
+QORM_API qorStatus qormMul_mat_64f(const double* pSrc1, int32_t src1Stride0, int32_t src1Stride1,
+                                   int32_t src1Stride2, int32_t src1Width, int32_t src1Height,
+                                   const double* pSrc2, int32_t src2Stride1, int32_t src2Stride2,
+                                   int32_t src2Width, int32_t src2Height, double* pDst,
+                                   int32_t dstStride0, int32_t dstStride1, int32_t dstStride2,
+                                   int32_t count);
+QORM_API qorStatus qormMul_mat_64f_P(const double* const* ppSrc1, int32_t src1Shift,
+                                     int32_t src1Stride0, int32_t src1Width, int32_t src1Height,
+                                     const double* const* ppSrc2, int32_t src2Shift,
+                                     int32_t src2Width, int32_t src2Height, double* const* ppDst,
+                                     int32_t dstShift, int32_t dstStride0, int32_t count);
+QORM_API qorStatus qormMul_mat_64f_L(const double* const* ppSrc1, int32_t src1Shift,
+                                     int32_t src1Stride1, int32_t src1Stride2, int32_t src1Width,
+                                     int32_t src1Height, const double* pSrc2, int32_t src2Stride1,
+                                     int32_t src2Stride2, int32_t src2Width, int32_t src2Height,
+                                     double* const* ppDst, int32_t dstShift, int32_t dstStride1,
+                                     int32_t dstStride2, int32_t count);
+QORM_API qorStatus qormMul_tat_32f(const float* pSrc1, int32_t src1Stride0, int32_t src1Stride1,
+                                   int32_t src1Stride2, int32_t src1Width, int32_t src1Height,
+                                   const float* pSrc2, int32_t src2Stride1, int32_t src2Stride2,
+                                   int32_t src2Width, int32_t src2Height, float* pDst,
+                                   int32_t dstStride0, int32_t dstStride1, int32_t dstStride2,
+                                   int32_t count);
+QORM_API qorStatus qormMul_tat_32f_P(const float* const* ppSrc1, int32_t src1Shift,
+                                     int32_t src1Stride0, int32_t src1Width, int32_t src1Height,
+                                     const float* const* ppSrc2, int32_t src2Shift,
+                                     int32_t src2Width, int32_t src2Height, float* const* ppDst,
+                                     int32_t dstShift, int32_t dstStride0, int32_t count);
+QORM_API qorStatus qormMul_tat_32f_L(const float* const* ppSrc1, int32_t src1Shift,
+                                     int32_t src1Stride1, int32_t src1Stride2, int32_t src1Width,
+                                     int32_t src1Height, const float* pSrc2, int32_t src2Stride1,
+                                     int32_t src2Stride2, int32_t src2Width, int32_t src2Height,
+                                     float* const* ppDst, int32_t dstShift, int32_t dstStride1,
+                                     int32_t dstStride2, int32_t count);
+QORM_API qorStatus qormMul_tat_64f(const double* pSrc1, int32_t src1Stride0, int32_t src1Stride1,
+                                   int32_t src1Stride2, int32_t src1Width, int32_t src1Height,
+                                   const double* pSrc2, int32_t src2Stride1, int32_t src2Stride2,
+                                   int32_t src2Width, int32_t src2Height, double* pDst,
+                                   int32_t dstStride0, int32_t dstStride1, int32_t dstStride2,
+                                   int32_t count);
+QORM_API qorStatus qormMul_tat_64f_P(const double* const* ppSrc1, int32_t src1Shift,
+                                     int32_t src1Stride0, int32_t src1Width, int32_t src1Height,
+                                     const double* const* ppSrc2, int32_t src2Shift,
+                                     int32_t src2Width, int32_t src2Height, double* const* ppDst,
+                                     int32_t dstShift, int32_t dstStride0, int32_t count);
+QORM_API qorStatus qormMul_tat_64f_L(const double* const* ppSrc1, int32_t src1Shift,
+                                     int32_t src1Stride1, int32_t src1Stride2, int32_t src1Width,
+                                     int32_t src1Height, const double* pSrc2, int32_t src2Stride1,
+                                     int32_t src2Stride2, int32_t src2Width, int32_t src2Height,
+                                     double* const* ppDst, int32_t dstShift, int32_t dstStride1,
+                                     int32_t dstStride2, int32_t count);
+/** @} */
+
+/** @name Product of one matrix and each matrix of an array: dst_n = A * B_n
+ *  Checks, in this order: null pointer, count, sizes, size match, strides, shifts (`_P`, `_L`).
+ *  @{ */
+QORM_API qorStatus qormMul_mma_32f(const float* pSrc1, int32_t src1Stride1, int32_t src1Stride2,
+                                   int32_t src1Width, int32_t src1Height, const float* pSrc2,
+                                   int32_t src2Stride0, int32_t src2Stride1, int32_t src2Stride2,
+                                   int32_t src2Width, int32_t src2Height, float* pDst,
+                                   int32_t dstStride0, int32_t dstStride1, int32_t dstStride2,
+                                   int32_t count);
+QORM_API qorStatus qormMul_mma_32f_P(const float* const* ppSrc1, int32_t src1Shift,
+                                     int32_t src1Width, int32_t src1Height,
+                                     const float* const* ppSrc2, int32_t src2Shift,
+                                     int32_t src2Stride0, int32_t src2Width, int32_t src2Height,
+                                     float* const* ppDst, int32_t dstShift, int32_t dstStride0,
+                                     int32_t count);
+QORM_API qorStatus qormMul_mma_32f_L(const float* pSrc1, int32_t src1Stride1, int32_t src1Stride2,
+                                     int32_t src1Width, int32_t src1Height,
+                                     const float* const* ppSrc2, int32_t src2Shift,
+                                     int32_t src2Stride1, int32_t src2Stride2, int32_t src2Width,
+                                     int32_t src2Height, float* const* ppDst, int32_t dstShift,
+                                     int32_t dstStride1, int32_t dstStride2, int32_t count);
+QORM_API qorStatus qormMul_mma_64f(const double* pSrc1, int32_t src1Stride1, int32_t src1Stride2,
+                                   int32_t src1Width, int32_t src1Height, const double* pSrc2,
+                                   int32_t src2Stride0, int32_t src2Stride1, int32_t src2Stride2,
+                                   int32_t src2Width, int32_t src2Height, double* pDst,
+                                   int32_t dstStride0, int32_t dstStride1, int32_t dstStride2,
+                                   int32_t count);
+QORM_API qorStatus qormMul_mma_64f_P(const double* const* ppSrc1, int32_t src1Shift,
+                                     int32_t src1Width, int32_t src1Height,
+                                     const double* const* ppSrc2, int32_t src2Shift,
+                                     int32_t src2Stride0, int32_t src2Width, int32_t src2Height,
+                                     double* const* ppDst, int32_t dstShift, int32_t dstStride0,
+                                     int32_t count);
+QORM_API qorStatus qormMul_mma_64f_L(const double* pSrc1, int32_t src1Stride1, int32_t src1Stride2,
+                                     int32_t src1Width, int32_t src1Height,
+                                     const double* const* ppSrc2, int32_t src2Shift,
+                                     int32_t src2Stride1, int32_t src2Stride2, int32_t src2Width,
+                                     int32_t src2Height, double* const* ppDst, int32_t dstShift,
+                                     int32_t dstStride1, int32_t dstStride2, int32_t count);
+QORM_API qorStatus qormMul_tma_32f(const float* pSrc1, int32_t src1Stride1, int32_t src1Stride2,
+                                   int32_t src1Width, int32_t src1Height, const float* pSrc2,
+                                   int32_t src2Stride0, int32_t src2Stride1, int32_t src2Stride2,
+                                   int32_t src2Width, int32_t src2Height, float* pDst,
+                                   int32_t dstStride0, int32_t dstStride1, int32_t dstStride2,
+                                   int32_t count);
+QORM_API qorStatus qormMul_tma_32f_P(const float* const* ppSrc1, int32_t src1Shift,
+                                     int32_t src1Width, int32_t src1Height,
+                                     const float* const* ppSrc2, int32_t src2Shift,
+                                     int32_t src2Stride0, int32_t src2Width, int32_t src2Height,
+                                     float* const* ppDst, int32_t dstShift, int32_t dstStride0,
+                                     int32_t count);
+QORM_API qorStatus qormMul_tma_32f_L(const float* pSrc1, int32_t src1Stride1, int32_t src1Stride2,
+                                     int32_t src1Width, int32_t src1Height,
+                                     const float* const* ppSrc2, int32_t src2Shift,
+                                     int32_t src2Stride1, int32_t src2Stride2, int32_t src2Width,
+                                     int32_t src2Height, float* const* ppDst, int32_t dstShift,
+                                     int32_t dstStride1, int32_t dstStride2, int32_t count);
+QORM_API qorStatus qormMul_tma_64f(const double* pSrc1, int32_t src1Stride1, int32_t src1Stride2,
+                                   int32_t src1Width, int32_t src1Height, const double* pSrc2,
+                                   int32_t src2Stride0, int32_t src2Stride1, int32_t src2Stride2,
+                                   int32_t src2Width, int32_t src2Height, double* pDst,
+                                   int32_t dstStride0, int32_t dstStride1, int32_t dstStride2,
+                                   int32_t count);
+QORM_API qorStatus qormMul_tma_64f_P(const double* const* ppSrc1, int32_t src1Shift,
+                                     int32_t src1Width, int32_t src1Height,
+                                     const double* const* ppSrc2, int32_t src2Shift,
+                                     int32_t src2Stride0, int32_t src2Width, int32_t src2Height,
+                                     double* const* ppDst, int32_t dstShift, int32_t dstStride0,
+                                     int32_t count);
+QORM_API qorStatus qormMul_tma_64f_L(const double* pSrc1, int32_t src1Stride1, int32_t src1Stride2,
+                                     int32_t src1Width, int32_t src1Height,
+                                     const double* const* ppSrc2, int32_t src2Shift,
+                                     int32_t src2Stride1, int32_t src2Stride2, int32_t src2Width,
+                                     int32_t src2Height, double* const* ppDst, int32_t dstShift,
+                                     int32_t dstStride1, int32_t dstStride2, int32_t count);
+QORM_API qorStatus qormMul_mta_32f(const float* pSrc1, int32_t src1Stride1, int32_t src1Stride2,
+                                   int32_t src1Width, int32_t src1Height, const float* pSrc2,
+                                   int32_t src2Stride0, int32_t src2Stride1, int32_t src2Stride2,
+                                   int32_t src2Width, int32_t src2Height, float* pDst,
+                                   int32_t dstStride0, int32_t dstStride1, int32_t dstStride2,
+                                   int32_t count);
+QORM_API qorStatus qormMul_mta_32f_P(const float* const* ppSrc1, int32_t src1Shift,
+                                     int32_t src1Width, int32_t src1Height,
+                                     const float* const* ppSrc2, int32_t src2Shift,
+                                     int32_t src2Stride0, int32_t src2Width, int32_t src2Height,
+                                     float* const* ppDst, int32_t dstShift, int32_t dstStride0,
+                                     int32_t count);
+QORM_API qorStatus qormMul_mta_32f_L(const float* pSrc1, int32_t src1Stride1, int32_t src1Stride2,
+                                     int32_t src1Width, int32_t src1Height,
+                                     const float* const* ppSrc2, int32_t src2Shift,
+                                     int32_t src2Stride1, int32_t src2Stride2, int32_t src2Width,
+                                     int32_t src2Height, float* const* ppDst, int32_t dstShift,
+                                     int32_t dstStride1, int32_t dstStride2, int32_t count);
+QORM_API qorStatus qormMul_mta_64f(const double* pSrc1, int32_t src1Stride1, int32_t src1Stride2,
+                                   int32_t src1Width, int32_t src1Height, const double* pSrc2,
+                                   int32_t src2Stride0, int32_t src2Stride1, int32_t src2Stride2,
+                                   int32_t src2Width, int32_t src2Height, double* pDst,
+                                   int32_t dstStride0, int32_t dstStride1, int32_t dstStride2,
+                                   int32_t count);
+QORM_API qorStatus qormMul_mta_64f_P(const double* const* ppSrc1, int32_t src1Shift,
+                                     int32_t src1Width, int32_t src1Height,
+                                     const double* const* ppSrc2, int32_t src2Shift,
+                                     int32_t src2Stride0, int32_t src2Width, int32_t src2Height,
+                                     double* const* ppDst, int32_t dstShift, int32_t dstStride0,
+                                     int32_t count);
+QORM_API qorStatus qormMul_mta_64f_L(const double* pSrc1, int32_t src1Stride1, int32_t src1Stride2,
+                                     int32_t src1Width, int32_t src1Height,
+                                     const double* const* ppSrc2, int32_t src2Shift,
+                                     int32_t src2Stride1, int32_t src2Stride2, int32_t src2Width,
+                                     int32_t src2Height, double* const* ppDst, int32_t dstShift,
+                                     int32_t dstStride1, int32_t dstStride2, int32_t count);
+QORM_API qorStatus qormMul_tta_32f(const float* pSrc1, int32_t src1Stride1, int32_t src1Stride2,
+                                   int32_t src1Width, int32_t src1Height, const float* pSrc2,
+                                   int32_t src2Stride0, int32_t src2Stride1, int32_t src2Stride2,
+                                   int32_t src2Width, int32_t src2Height, float* pDst,
+                                   int32_t dstStride0, int32_t dstStride1, int32_t dstStride2,
+                                   int32_t count);
+QORM_API qorStatus qormMul_tta_32f_P(const float* const* ppSrc1, int32_t src1Shift,
+                                     int32_t src1Width, int32_t src1Height,
+                                     const float* const* ppSrc2, int32_t src2Shift,
+                                     int32_t src2Stride0, int32_t src2Width, int32_t src2Height,
+                                     float* const* ppDst, int32_t dstShift, int32_t dstStride0,
+                                     int32_t count);
+QORM_API qorStatus qormMul_tta_32f_L(const float* pSrc1, int32_t src1Stride1, int32_t src1Stride2,
+                                     int32_t src1Width, int32_t src1Height,
+                                     const float* const* ppSrc2, int32_t src2Shift,
+                                     int32_t src2Stride1, int32_t src2Stride2, int32_t src2Width,
+                                     int32_t src2Height, float* const* ppDst, int32_t dstShift,
+                                     int32_t dstStride1, int32_t dstStride2, int32_t count);
+QORM_API qorStatus qormMul_tta_64f(const double* pSrc1, int32_t src1Stride1, int32_t src1Stride2,
+                                   int32_t src1Width, int32_t src1Height, const double* pSrc2,
+                                   int32_t src2Stride0, int32_t src2Stride1, int32_t src2Stride2,
+                                   int32_t src2Width, int32_t src2Height, double* pDst,
+                                   int32_t dstStride0, int32_t dstStride1, int32_t dstStride2,
+                                   int32_t count);
+QORM_API qorStatus qormMul_tta_64f_P(const double* const* ppSrc1, int32_t src1Shift,
+                                     int32_t src1Width, int32_t src1Height,
+                                     const double* const* ppSrc2, int32_t src2Shift,
+                                     int32_t src2Stride0, int32_t src2Width, int32_t src2Height,
+                                     double* const* ppDst, int32_t dstShift, int32_t dstStride0,
+                                     int32_t count);
+QORM_API qorStatus qormMul_tta_64f_L(const double* pSrc1, int32_t src1Stride1, int32_t src1Stride2,
+                                     int32_t src1Width, int32_t src1Height,
+                                     const double* const* ppSrc2, int32_t src2Shift,
+                                     int32_t src2Stride1, int32_t src2Stride2, int32_t src2Width,
+                                     int32_t src2Height, double* const* ppDst, int32_t dstShift,
+                                     int32_t dstStride1, int32_t dstStride2, int32_t count);
+/** @} */
+
+/** @name Product of corresponding matrices of two arrays: dst_n = A_n * B_n
+ *  Checks, in this order: null pointer, count, sizes, size match, strides, shifts (`_P`, `_L`).
+ *  @{ */
+QORM_API qorStatus qormMul_mama_32f(const float* pSrc1, int32_t src1Stride0, int32_t src1Stride1,
+                                    int32_t src1Stride2, int32_t src1Width, int32_t src1Height,
+                                    const float* pSrc2, int32_t src2Stride0, int32_t src2Stride1,
+                                    int32_t src2Stride2, int32_t src2Width, int32_t src2Height,
+                                    float* pDst, int32_t dstStride0, int32_t dstStride1,
+                                    int32_t dstStride2, int32_t count);
+QORM_API qorStatus qormMul_mama_32f_P(const float* const* ppSrc1, int32_t src1Shift,
+                                      int32_t src1Stride0, int32_t src1Width, int32_t src1Height,
+                                      const float* const* ppSrc2, int32_t src2Shift,
+                                      int32_t src2Stride0, int32_t src2Width, int32_t src2Height,
+                                      float* const* ppDst, int32_t dstShift, int32_t dstStride0,
+                                      int32_t count);
+QORM_API qorStatus qormMul_mama_32f_L(const float* const* ppSrc1, int32_t src1Shift,
+                                      int32_t src1Stride1, int32_t src1Stride2, int32_t src1Width,
+                                      int32_t src1Height, const float* const* ppSrc2,
+                                      int32_t src2Shift, int32_t src2Stride1, int32_t src2Stride2,
+                                      int32_t src2Width, int32_t src2Height, float* const* ppDst,
+                                      int32_t dstShift, int32_t dstStride1, int32_t dstStride2,
+                                      int32_t count);
+QORM_API qorStatus qormMul_mama_64f(const double* pSrc1, int32_t src1Stride0, int32_t src1Stride1,
+                                    int32_t src1Stride2, int32_t src1Width, int32_t src1Height,
+                                    const double* pSrc2, int32_t src2Stride0, int32_t src2Stride1,
+                                    int32_t src2Stride2, int32_t src2Width, int32_t src2Height,
+                                    double* pDst, int32_t dstStride0, int32_t dstStride1,
+                                    int32_t dstStride2, int32_t count);
+QORM_API qorStatus qormMul_mama_64f_P(const double* const* ppSrc1, int32_t src1Shift,
+                                      int32_t src1Stride0, int32_t src1Width, int32_t src1Height,
+                                      const double* const* ppSrc2, int32_t src2Shift,
+                                      int32_t src2Stride0, int32_t src2Width, int32_t src2Height,
+                                      double* const* ppDst, int32_t dstShift, int32_t dstStride0,
+                                      int32_t count);
+QORM_API qorStatus qormMul_mama_64f_L(const double* const* ppSrc1, int32_t src1Shift,
+                                      int32_t src1Stride1, int32_t src1Stride2, int32_t src1Width,
+                                      int32_t src1Height, const double* const* ppSrc2,
+                                      int32_t src2Shift, int32_t src2Stride1, int32_t src2Stride2,
+                                      int32_t src2Width, int32_t src2Height, double* const* ppDst,
+                                      int32_t dstShift, int32_t dstStride1, int32_t dstStride2,
+                                      int32_t count);
+QORM_API qorStatus qormMul_tama_32f(const float* pSrc1, int32_t src1Stride0, int32_t src1Stride1,
+                                    int32_t src1Stride2, int32_t src1Width, int32_t src1Height,
+                                    const float* pSrc2, int32_t src2Stride0, int32_t src2Stride1,
+                                    int32_t src2Stride2, int32_t src2Width, int32_t src2Height,
+                                    float* pDst, int32_t dstStride0, int32_t dstStride1,
+                                    int32_t dstStride2, int32_t count);
+QORM_API qorStatus qormMul_tama_32f_P(const float* const* ppSrc1, int32_t src1Shift,
+                                      int32_t src1Stride0, int32_t src1Width, int32_t src1Height,
+                                      const float* const* ppSrc2, int32_t src2Shift,
+                                      int32_t src2Stride0, int32_t src2Width, int32_t src2Height,
+                                      float* const* ppDst, int32_t dstShift, int32_t dstStride0,
+                                      int32_t count);
+QORM_API qorStatus qormMul_tama_32f_L(const float* const* ppSrc1, int32_t src1Shift,
+                                      int32_t src1Stride1, int32_t src1Stride2, int32_t src1Width,
+                                      int32_t src1Height, const float* const* ppSrc2,
+                                      int32_t src2Shift, int32_t src2Stride1, int32_t src2Stride2,
+                                      int32_t src2Width, int32_t src2Height, float* const* ppDst,
+                                      int32_t dstShift, int32_t dstStride1, int32_t dstStride2,
+                                      int32_t count);
+QORM_API qorStatus qormMul_tama_64f(const double* pSrc1, int32_t src1Stride0, int32_t src1Stride1,
+                                    int32_t src1Stride2, int32_t src1Width, int32_t src1Height,
+                                    const double* pSrc2, int32_t src2Stride0, int32_t src2Stride1,
+                                    int32_t src2Stride2, int32_t src2Width, int32_t src2Height,
+                                    double* pDst, int32_t dstStride0, int32_t dstStride1,
+                                    int32_t dstStride2, int32_t count);
+QORM_API qorStatus qormMul_tama_64f_P(const double* const* ppSrc1, int32_t src1Shift,
+                                      int32_t src1Stride0, int32_t src1Width, int32_t src1Height,
+                                      const double* const* ppSrc2, int32_t src2Shift,
+                                      int32_t src2Stride0, int32_t src2Width, int32_t src2Height,
+                                      double* const* ppDst, int32_t dstShift, int32_t dstStride0,
+                                      int32_t count);
+QORM_API qorStatus qormMul_tama_64f_L(const double* const* ppSrc1, int32_t src1Shift,
+                                      int32_t src1Stride1, int32_t src1Stride2, int32_t src1Width,
+                                      int32_t src1Height, const double* const* ppSrc2,
+                                      int32_t src2Shift, int32_t src2Stride1, int32_t src2Stride2,
+                                      int32_t src2Width, int32_t src2Height, double* const* ppDst,
+                                      int32_t dstShift, int32_t dstStride1, int32_t dstStride2,
+                                      int32_t count);
+QORM_API qorStatus qormMul_mata_32f(const float* pSrc1, int32_t src1Stride0, int32_t src1Stride1,
+                                    int32_t src1Stride2, int32_t src1Width, int32_t src1Height,
+                                    const float* pSrc2, int32_t src2Stride0, int32_t src2Stride1,
+                                    int32_t src2Stride2, int32_t src2Width, int32_t src2Height,
+                                    float* pDst, int32_t dstStride0, int32_t dstStride1,
+                                    int32_t dstStride2, int32_t count);
+QORM_API qorStatus qormMul_mata_32f_P(const float* const* ppSrc1, int32_t src1Shift,
+                                      int32_t src1Stride0, int32_t src1Width, int32_t src1Height,
+                                      const float* const* ppSrc2, int32_t src2Shift,
+                                      int32_t src2Stride0, int32_t src2Width, int32_t src2Height,
+                                      float* const* ppDst, int32_t dstShift, int32_t dstStride0,
+                                      int32_t count);
+QORM_API qorStatus qormMul_mata_32f_L(const float* const* ppSrc1, int32_t src1Shift,
+                                      int32_t src1Stride1, int32_t src1Stride2, int32_t src1Width,
+                                      int32_t src1Height, const float* const* ppSrc2,
+                                      int32_t src2Shift, int32_t src2Stride1, int32_t src2Stride2,
+                                      int32_t src2Width, int32_t src2Height, float* const* ppDst,
+                                      int32_t dstShift, int32_t dstStride1, int32_t dstStride2,
+                                      int32_t count);
+QORM_API qorStatus qormMul_mata_64f(const double* pSrc1, int32_t src1Stride0, int32_t src1Stride1,
+                                    int32_t src1Stride2, int32_t src1Width, int32_t src1Height,
+                                    const double* pSrc2, int32_t src2Stride0, int32_t src2Stride1,
+                                    int32_t src2Stride2, int32_t src2Width, int32_t src2Height,
+                                    double* pDst, int32_t dstStride0, int32_t dstStride1,
+                                    int32_t dstStride2, int32_t count);
+QORM_API qorStatus qormMul_mata_64f_P(const double* const* ppSrc1, int32_t src1Shift,
+                                      int32_t src1Stride0, int32_t src1Width, int32_t src1Height,
+                                      const double* const* ppSrc2, int32_t src2Shift,
+                                      int32_t src2Stride0, int32_t src2Width, int32_t src2Height,
+                                      double* const* ppDst, int32_t dstShift, int32_t dstStride0,
+                                      int32_t count);
+QORM_API qorStatus qormMul_mata_64f_L(const double* const* ppSrc1, int32_t src1Shift,
+                                      int32_t src1Stride1, int32_t src1Stride2, int32_t src1Width,
+                                      int32_t src1Height, const double* const* ppSrc2,
+                                      int32_t src2Shift, int32_t src2Stride1, int32_t src2Stride2,
+                                      int32_t src2Width, int32_t src2Height, double* const* ppDst,
+                                      int32_t dstShift, int32_t dstStride1, int32_t dstStride2,
+                                      int32_t count);
+QORM_API qorStatus qormMul_tata_32f(const float* pSrc1, int32_t src1Stride0, int32_t src1Stride1,
+                                    int32_t src1Stride2, int32_t src1Width, int32_t src1Height,
+                                    const float* pSrc2, int32_t src2Stride0, int32_t src2Stride1,
+                                    int32_t src2Stride2, int32_t src2Width, int32_t src2Height,
+                                    float* pDst, int32_t dstStride0, int32_t dstStride1,
+                                    int32_t dstStride2, int32_t count);
+QORM_API qorStatus qormMul_tata_32f_P(const float* const* ppSrc1, int32_t src1Shift,
+                                      int32_t src1Stride0, int32_t src1Width, int32_t src1Height,
+                                      const float* const* ppSrc2, int32_t src2Shift,
+                                      int32_t src2Stride0, int32_t src2Width, int32_t src2Height,
+                                      float* const* ppDst, int32_t dstShift, int32_t dstStride0,
+                                      int32_t count);
+QORM_API qorStatus qormMul_tata_32f_L(const float* const* ppSrc1, int32_t src1Shift,
+                                      int32_t src1Stride1, int32_t src1Stride2, int32_t src1Width,
+                                      int32_t src1Height, const float* const* ppSrc2,
+                                      int32_t src2Shift, int32_t src2Stride1, int32_t src2Stride2,
+                                      int32_t src2Width, int32_t src2Height, float* const* ppDst,
+                                      int32_t dstShift, int32_t dstStride1, int32_t dstStride2,
+                                      int32_t count);
+QORM_API qorStatus qormMul_tata_64f(const double* pSrc1, int32_t src1Stride0, int32_t src1Stride1,
+                                    int32_t src1Stride2, int32_t src1Width, int32_t src1Height,
+                                    const double* pSrc2, int32_t src2Stride0, int32_t src2Stride1,
+                                    int32_t src2Stride2, int32_t src2Width, int32_t src2Height,
+                                    double* pDst, int32_t dstStride0, int32_t dstStride1,
+                                    int32_t dstStride2, int32_t count);
+QORM_API qorStatus qormMul_tata_64f_P(const double* const* ppSrc1, int32_t src1Shift,
+                                      int32_t src1Stride0, int32_t src1Width, int32_t src1Height,
+                                      const double* const* ppSrc2, int32_t src2Shift,
+                                      int32_t src2Stride0, int32_t src2Width, int32_t src2Height,
+                                      double* const* ppDst, int32_t dstShift, int32_t dstStride0,
+                                      int32_t count);
+QORM_API qorStatus qormMul_tata_64f_L(const double* const* ppSrc1, int32_t src1Shift,
+                                      int32_t src1Stride1, int32_t src1Stride2, int32_t src1Width,
+                                      int32_t src1Height, const double* const* ppSrc2,
+                                      int32_t src2Shift, int32_t src2Stride1, int32_t src2Stride2,
+                                      int32_t src2Width, int32_t src2Height, double* const* ppDst,
+                                      int32_t dstShift, int32_t dstStride1, int32_t dstStride2,
+                                      int32_t count);
+/** @} */
+
+#ifdef __cplusplus
+}
+#endif
+
+#endif

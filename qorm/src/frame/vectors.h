@@ -1,0 +1,76 @@
+// Vectors of any power of two of elements. Where one is wider than a register, compilers split it.
+#pragma once
+
+#include "frame/lanes.h"
+
+#include <bit>
+#include <cstring>
+
+namespace qorm {
+
+template <Scalar T, int lanes>
+struct VectorOf {
+    typedef T Type __attribute__((vector_size(lanes * sizeof(T))));
+};
+
+template <Scalar T, int lanes>
+using Vector = typename VectorOf<T, lanes>::Type;
+
+// The lanes of a vector for so many elements.
+constexpr int lanesFor(int elements) {
+    return static_cast<int>(std::bit_ceil(static_cast<unsigned>(elements)));
+}
+
+// The first `live` lanes from memory, zeros in the others.
+template <Scalar T, int lanes, int live>
+[[gnu::always_inline]] inline Vector<T, lanes> loadVector(const T* from) {
+    Vector<T, lanes> vector{};
+    if constexpr (live == lanes) {
+        std::memcpy(&vector, from, sizeof vector);
+    } else {
+#if defined(QORM_AVX512)
+        constexpr bool singles = sizeof(T) == 4;
+        constexpr unsigned mask = (1U << live) - 1;
+        if constexpr (singles && lanes == 4)
+            vector = _mm_maskz_loadu_ps(mask, from);
+        else if constexpr (singles && lanes == 8)
+            vector = _mm256_maskz_loadu_ps(mask, from);
+        else if constexpr (singles)
+            vector = _mm512_maskz_loadu_ps(mask, from);
+        else if constexpr (lanes == 4)
+            vector = _mm256_maskz_loadu_pd(mask, from);
+        else
+            vector = _mm512_maskz_loadu_pd(mask, from);
+#else
+        for (int lane = 0; lane < live; ++lane) vector[lane] = from[lane];
+#endif
+    }
+    return vector;
+}
+
+// The first `live` lanes to memory.
+template <Scalar T, int lanes, int live>
+[[gnu::always_inline]] inline void storeVector(const Vector<T, lanes>& vector, T* to) {
+    if constexpr (live == lanes) {
+        std::memcpy(to, &vector, sizeof vector);
+    } else {
+#if defined(QORM_AVX512)
+        constexpr bool singles = sizeof(T) == 4;
+        constexpr unsigned mask = (1U << live) - 1;
+        if constexpr (singles && lanes == 4)
+            _mm_mask_storeu_ps(to, mask, vector);
+        else if constexpr (singles && lanes == 8)
+            _mm256_mask_storeu_ps(to, mask, vector);
+        else if constexpr (singles)
+            _mm512_mask_storeu_ps(to, mask, vector);
+        else if constexpr (lanes == 4)
+            _mm256_mask_storeu_pd(to, mask, vector);
+        else
+            _mm512_mask_storeu_pd(to, mask, vector);
+#else
+        for (int lane = 0; lane < live; ++lane) to[lane] = vector[lane];
+#endif
+    }
+}
+
+} // namespace qorm

@@ -1,0 +1,218 @@
+// Which way a product goes: as fast as the layout and the size allow, or in the contract's order of
+// reads and writes where that could show.
+#pragma once
+
+#include "frame/overlap.h"
+#include "products/dense_products.h"
+#include "products/panels.h"
+#include "products/planes.h"
+#include "products/product_in_order.h"
+#include "products/rows.h"
+
+namespace qorm::products {
+
+template <class Reader>
+auto spansOf(const Reader& src) {
+    return qorm::spansOf(src.operand, src.storedRows, src.storedColumns);
+}
+
+template <class D>
+auto spansOf(const D& dst, const Shape& shape) {
+    return qorm::spansOf(dst, shape.rows, shape.columns);
+}
+
+// work(n) with a constant for the squares that have straight-line code.
+template <class Work>
+void withProductSize(const Shape& shape, const Work& work) {
+    const std::ptrdiff_t n = shape.isSquare() ? shape.rows : 0;
+    switch (n) {
+    case 2:
+        return work(Fixed<2>());
+    case 7:
+        return work(Fixed<7>());
+    case 8:
+        return work(Fixed<8>());
+    case 16:
+        return work(Fixed<16>());
+    default:
+        return withStaticSize(n, work);
+    }
+}
+
+// Sizes at which an array's operand is held before the first element of its result is written.
+template <class N>
+inline constexpr bool isHeldWhole = false;
+template <std::ptrdiff_t n>
+inline constexpr bool isHeldWhole<Fixed<n>> = beginsWithProduct(n);
+
+template <class T, class N>
+inline constexpr bool rowFitsRegister = false;
+template <class T, std::ptrdiff_t n>
+inline constexpr bool rowFitsRegister<T, Fixed<n>> = lanesFor(n) <= laneCount<Pack<T>>;
+
+// One product whose destination is apart from the first operand, and from the second unless that
+// may be held. Operands come by value: what is known by reference could change with each element
+// that is written.
+template <class N, class A, class B, class D>
+[[gnu::always_inline]] inline void multiplyObject(const A& a, const B& b, const D& d,
+                                                  const Shape& shape, N n) {
+    using T = typename std::remove_cvref_t<decltype(d(0, 0))>::Value;
+    if constexpr (rowsAreRuns<D> && rowFitsRegister<T, N>)
+        multiplyRows<n>(a, b, d);
+    else if constexpr (largestSize<N> <= 6)
+        multiplySquare<T>(Held<T, n>(a, n), Held<T, n>(b, n), writeTo(d), n);
+    else
+        multiplyByPanels<T>(a, b, d, shape);
+}
+
+template <class A, class B, class D>
+bool haveAdjacentRows(const A& src1, const B& src2, const D& dst, std::ptrdiff_t n) {
+    return src1.operand.hasAdjacentRows(n) && src2.operand.hasAdjacentRows(n) &&
+           dst.hasAdjacentRows(n);
+}
+
+template <class A, class B, class D>
+bool arePacked(const A& src1, const B& src2, const D& dst, std::ptrdiff_t n) {
+    const auto isPacked = [n]<bool array>(const auto& operand, std::bool_constant<array>) {
+        return !array || operand.hasAdjacentObjects(n * n);
+    };
+    return isPacked(src1.operand, std::bool_constant<A::isArray>()) &&
+           isPacked(src2.operand, std::bool_constant<B::isArray>()) &&
+           isPacked(dst, std::true_type());
+}
+
+// Squares without gaps that fit a register, from object `first` on.
+template <int n, int objects, class A, class B, class D>
+[[gnu::noinline]] void multiplyDensely(const A src1, const B src2, const D dst,
+                                       std::ptrdiff_t first, std::ptrdiff_t blocks) {
+    const auto from = [=](const auto& operand) {
+        return [=](std::ptrdiff_t block) {
+            return operand.object(first + block * objects, n)(0, 0).address();
+        };
+    };
+    multiplyDenseBlocks<n, objects, A::kind, B::kind>(from(src1.operand), from(src2.operand),
+                                                      from(dst), blocks);
+}
+
+template <class N, class A, class B, class D>
+[[gnu::noinline]] void multiplyObjects(const A src1, const B src2, const D dst, const Shape shape,
+                                       N n, std::ptrdiff_t count) {
+    for (std::ptrdiff_t object = 0; object < count; ++object) {
+        multiplyObject(src1.object(object), src2.object(object), dst.object(object, shape.columns),
+                       shape, n);
+    }
+}
+
+template <class A, class B, class D>
+void multiplyStrided(const A& src1, const B& src2, const D& dst, const Shape& shape,
+                     std::ptrdiff_t count) {
+    using T = typename D::Element;
+    const RegularSpans written = spansOf(dst, shape);
+    const bool firstIsApart = areApart(spansOf(src1), written, count);
+    const bool apart = firstIsApart && areApart(spansOf(src2), written, count) &&
+                       hasDistinctElements(dst, shape.rows, shape.columns, 1);
+    withProductSize(shape, [&](auto n) {
+        if (!apart && !(isHeldWhole<decltype(n)> && B::isArray && firstIsApart)) {
+            return multiplyInOrder(src1, src2, dst, shape, 0, count);
+        }
+        if constexpr (isFixed<decltype(n)> && D::hasContiguousRows) {
+            if constexpr (fitsRegister<T, n>) {
+                if (haveAdjacentRows(src1, src2, dst, n)) {
+                    constexpr int objects = densestBlock<T, n>();
+                    const bool inBlocks = apart && arePacked(src1, src2, dst, n);
+                    const std::ptrdiff_t blocks = inBlocks ? count / objects : 0;
+                    multiplyDensely<n, objects>(src1, src2, dst, 0, blocks);
+                    multiplyDensely<n, 1>(src1, src2, dst, blocks * objects,
+                                          count - blocks * objects);
+                    return;
+                }
+            }
+        }
+        multiplyObjects(src1, src2, dst, shape, n, count);
+    });
+}
+
+// A list may hold an object more than once, and a single operand is read again for each of them. So
+// the objects are looked at one by one.
+template <class N, class A, class B, class D>
+[[gnu::noinline]] void multiplyListedObjects(const A src1, const B src2, const D dst,
+                                             const Shape shape, N n, std::ptrdiff_t count) {
+    const auto reads1 = spansOf(src1);
+    const auto reads2 = spansOf(src2);
+    const auto writes = spansOf(dst, shape);
+    const bool distinct = hasDistinctElements(dst, shape.rows, shape.columns, 1);
+    for (std::ptrdiff_t object = 0; object < count; ++object) {
+        const Bytes written = writes(object);
+        if (distinct && !overlap(reads1(object), written) && !overlap(reads2(object), written)) {
+            multiplyObject(src1.object(object), src2.object(object),
+                           dst.object(object, shape.columns), shape, n);
+        } else {
+            multiplyInOrder(src1, src2, dst, shape, object, object + 1);
+        }
+    }
+}
+
+template <class A, class B, class D>
+void multiplyListed(const A& src1, const B& src2, const D& dst, const Shape& shape,
+                    std::ptrdiff_t count) {
+    withProductSize(shape,
+                    [&](auto n) { multiplyListedObjects(src1, src2, dst, shape, n, count); });
+}
+
+// Whether nothing that is read at some position lies where the objects of another are written.
+template <class Reader, class D>
+bool isApartByPositions(const Reader& src, const D& dst, const Shape& shape, std::ptrdiff_t count) {
+    const auto read = src.operand.object(0, src.storedColumns);
+    const auto written = dst.object(0, shape.columns);
+    return positionsAreApart(read, src.storedRows, src.storedColumns, Reader::isArray ? count : 1,
+                             written, shape.rows, shape.columns, count);
+}
+
+// Whether the destination lies in the same places as an operand, position by position, or apart.
+template <class Reader, class D>
+bool isInPlace(const Reader& src, const D& dst, std::ptrdiff_t n, std::ptrdiff_t count) {
+    return positionsAreIndependent(src.operand.object(0, n), Reader::isArray ? count : 1,
+                                   dst.object(0, n), n, n, count);
+}
+
+template <class D>
+bool isApartFromItself(const D& dst, const Shape& shape, std::ptrdiff_t count) {
+    const auto d = dst.object(0, shape.columns);
+    return positionsAreIndependent(d, count, d, shape.columns, shape.rows, count);
+}
+
+// False, with nothing done, where objects don't lie side by side or the order would show.
+template <class N, class A, class B, class D>
+bool multiplySideBySide(const A& src1, const B& src2, const D& dst, const Shape& shape, N n,
+                        std::ptrdiff_t count) {
+    // The tests below look at pairs of positions: they are for many objects.
+    if (count == 1 || count < shape.rows || !src1.operand.hasObjectsSideBySide() ||
+        !src2.operand.hasObjectsSideBySide() || !dst.hasObjectsSideBySide() ||
+        !isApartFromItself(dst, shape, count)) {
+        return false;
+    }
+    bool mayReadAhead =
+        isApartByPositions(src1, dst, shape, count) && isApartByPositions(src2, dst, shape, count);
+    if constexpr (isHeldWhole<N>) {
+        mayReadAhead |= isInPlace(src1, dst, n, count) && isInPlace(src2, dst, n, count);
+    }
+    if (mayReadAhead) multiplyPlanes(src1, src2, dst, shape, n, count);
+    return mayReadAhead;
+}
+
+template <class A, class B, class D>
+void multiplyPointed(const A& src1, const B& src2, const D& dst, const Shape& shape,
+                     std::ptrdiff_t count) {
+    withProductSize(shape, [&](auto n) {
+        if (multiplySideBySide(src1, src2, dst, shape, n, count)) return;
+        const RegularSpans written = spansOf(dst, shape);
+        if (areApart(spansOf(src1), written, count) && areApart(spansOf(src2), written, count) &&
+            hasDistinctElements(dst, shape.rows, shape.columns, 1)) {
+            multiplyObjects(src1, src2, dst, shape, n, count);
+        } else {
+            multiplyInOrder(src1, src2, dst, shape, 0, count);
+        }
+    });
+}
+
+} // namespace qorm::products

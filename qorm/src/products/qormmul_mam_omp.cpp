@@ -1,0 +1,6 @@
+// Fan-out drivers: products of an array with a single matrix.
+#include "frame/drivers.h"
+#include "products/products.h"
+#include "qorm/mul.h"
+
+#include "products/qormmul_mam.def"

@@ -1,0 +1,6 @@
+// Cores: products of a single matrix with an array.
+#include "frame/cores.h"
+#include "products/products.h"
+#include "qorm/mul.h"
+
+#include "products/qormmul_mma.def"

@@ -1,0 +1,41 @@
+// Products of small square matrices with contiguous rows: a register holds a row.
+#pragma once
+
+#include "frame/transposition.h"
+#include "frame/vectors.h"
+#include "products/shape.h"
+
+namespace qorm::products {
+
+// The rows of the second operand as the product reads it.
+template <Scalar T, int n>
+struct HeldRows {
+    static constexpr int lanes = lanesFor(n);
+
+    Vector<T, lanes> rows[lanes];
+
+    template <class Matrix>
+    explicit HeldRows(const Matrix& matrix) {
+        for (int k = 0; k < n; ++k) rows[k] = loadVector<T, lanes, n>(matrix(k, 0).address());
+    }
+    template <class Matrix>
+    explicit HeldRows(const Transposed<Matrix>& transposed) : HeldRows(transposed.matrix) {
+        for (int k = n; k < lanes; ++k) rows[k] = Vector<T, lanes>{};
+        transpose(rows);
+    }
+};
+
+// One product. The second operand is read before the first element is written.
+template <int n, class A, class B, class D>
+[[gnu::always_inline]] inline void multiplyRows(const A& a, const B& b, const D& d) {
+    using T = typename std::remove_cvref_t<decltype(d(0, 0))>::Value;
+    const HeldRows<T, n> second(b);
+    for (int i = 0; i < n; ++i) {
+        auto sums = T(a(i, 0)) * second.rows[0];
+        if constexpr (!beginsWithProduct(n)) sums += T(0);
+        for (int k = 1; k < n; ++k) sums += T(a(i, k)) * second.rows[k];
+        storeVector<T, lanesFor(n), n>(sums, d(i, 0).address());
+    }
+}
+
+} // namespace qorm::products
