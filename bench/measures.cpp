@@ -7,6 +7,7 @@
 #include "roofline.h"
 
 #include <Eigen/LU>
+#include <cmath>
 #include <lapacke.h>
 
 namespace {
@@ -180,9 +181,7 @@ struct PeersOf {
         }
     }
     static bool loop(const Data& data) {
-        if constexpr (placement == Placement::adjacent && isClosed)
-            return positionByPosition(data);
-        else if constexpr (operation == Operation::determinant)
+        if constexpr (operation == Operation::determinant)
             return objectByObject(data, [](const T* a) { return determinantOf(a); });
         else
             return objectByObject(data, [](const T* a, T* d) { invertOne(a, d); });
@@ -272,8 +271,15 @@ void row(Session& session, int n, Placement placement, Memory memory,
 template <Operation operation, Placement placement>
 void rows(Session& session, Memory memory) {
     forSizes<2, 3, 4, 5, 6, 8, 16>([&]<class T, int n>() {
-        using Own = PeersOf<T, n, operation, placement>;
-        row<T, operation>(session, n, placement, memory, {Own::loop, Own::maps, Own::lapack});
+        // Elements with a pointer each are copied, wherever they lie.
+        constexpr Placement access =
+            placement == Placement::adjacent ? Placement::scattered : placement;
+        using Own = PeersOf<T, n, operation, access>;
+        Peers<T, operation> peers = {Own::loop, Own::maps, Own::lapack};
+        if constexpr (placement == Placement::adjacent && n <= largestClosedForm) {
+            peers.loop = Own::positionByPosition;
+        }
+        row<T, operation>(session, n, placement, memory, peers);
     });
 }
 
@@ -298,8 +304,8 @@ const Registration measures({"measures",
 template <Operation operation>
 void sweep(Session& session) {
     forSizes<3, 6, 8>([&]<class T, int n>() {
-        const auto measureRow = [&](Placement placement, Memory memory, int count) {
-            const Subject subject = subjectOf<T, operation>(n, placement, memory, count);
+        const auto measureRow = [&](Placement placement, int count) {
+            const Subject subject = subjectOf<T, operation>(n, placement, Memory::cached, count);
             if (!session.wants(subject)) return;
             Measure<T, operation> measure(n, count, placement, true);
             std::vector<Contender> contenders =
@@ -311,7 +317,7 @@ void sweep(Session& session) {
              {Placement::packed, Placement::adjacent, Placement::list}) {
             const bool isHigh = placement == Placement::list && sizeof(T) == 4;
             sweepCount(isHigh ? 40001 : 20001, operation == Operation::inverse ? 2 * n : n,
-                       [&](int count) { measureRow(placement, Memory::cached, count); });
+                       [&](int count) { measureRow(placement, count); });
         }
     });
 }

@@ -2,9 +2,7 @@
 #pragma once
 
 #include "frame/entry.h"
-#include "frame/lane_blocks.h"
-#include "frame/overlap.h"
-#include "frame/static_size.h"
+#include "measures/blocks.h"
 #include "measures/column_minors.h"
 #include "measures/elimination.h"
 
@@ -54,16 +52,22 @@ V determinantByElimination(const Matrix& work, std::ptrdiff_t n) {
 template <Kind kind, class V, class Src, class T, class N>
 [[gnu::flatten]] qorStatus determinantsOfBlock(const Src src, const Plain<T> dst,
                                                std::ptrdiff_t first, int live, N n) {
+    const auto store = [&](V determinant) {
+        storeLanes(dst, first, live, Fixed<1>(), PackRun<V>{&determinant});
+        return qorStatusOk;
+    };
+    if constexpr (hasClosedForm<N> && Src::layout == Layout::P) {
+        if (live == laneCount<V> && src.hasObjectsSideBySide()) {
+            return store(determinantByMinors<n, V>(lanesInPlace<V>(src.object(first, n))));
+        }
+    }
     V block[largestSize<N> * largestSize<N>];
     const PackMatrix<V, N> a = {block, n};
     loadLanes(src, first, live, n, n, a);
-    V determinant;
-    if constexpr (isFixed<N>)
-        determinant = determinantByMinors<n, V>(a);
+    if constexpr (hasClosedForm<N>)
+        return store(determinantByMinors<n, V>(a));
     else
-        determinant = determinantByElimination<kind, V>(a, n);
-    storeLanes(dst, first, live, Fixed<1>(), PackRun<V>{&determinant});
-    return qorStatusOk;
+        return store(determinantByElimination<kind, V>(a, n));
 }
 
 // Of a matrix of any size, in the caller's scratch.
@@ -89,7 +93,7 @@ qorStatus determinants(const Src& src, Size size, const Scratch<T>& scratch, con
         }
         return qorStatusOk;
     }
-    return withStaticSize(n, [&](auto fixed) {
+    return withSmallSize(n, [&](auto fixed) {
         if constexpr (isArray(kind)) {
             const ReadAhead guard(spansOf(src, n, n), spansOf(dst), count);
             return inLanes<Pack<T>>(guard, count, [&]<class V>(std::ptrdiff_t first, int live) {

@@ -2,9 +2,7 @@
 #pragma once
 
 #include "frame/entry.h"
-#include "frame/lane_blocks.h"
-#include "frame/overlap.h"
-#include "frame/static_size.h"
+#include "measures/blocks.h"
 #include "measures/cofactors.h"
 #include "measures/row_minors.h"
 
@@ -61,32 +59,45 @@ constexpr FormOfInvert<kind> formOfInvert(std::size_t elementSize, Layout layout
              .generalThreshold = 20001}};
 }
 
-// Objects first .. first + live - 1. Nothing is written if one of them is singular. The determinant
-// of a single matrix fails if it is NaN, that of an array passes.
+// The determinant of a single matrix fails if it is NaN, that of an array passes.
+template <Kind kind, class V>
+bool isAnySingular(const V& determinant) {
+    const V size = abs(determinant);
+    return any(isArray(kind) ? threshold<V>() > size : !(threshold<V>() <= size));
+}
+
+// Objects first .. first + live - 1. Nothing is written if one of them is singular.
 template <Kind kind, class V, class Src, class Dst, class N>
 [[gnu::flatten]] qorStatus invertBlock(const Src src, const Dst dst, std::ptrdiff_t first, int live,
                                        N n) {
     constexpr std::ptrdiff_t capacity = largestSize<N> * largestSize<N>;
-    V sourceBlock[capacity];
     V inverseBlock[capacity];
-    const PackMatrix<V, N> a = {sourceBlock, n};
     const PackMatrix<V, N> inverse = {inverseBlock, n};
+    const auto store = [&] {
+        storeLanes(dst, first, live, n, n, inverse);
+        return qorStatusOk;
+    };
+    if constexpr (hasClosedForm<N> && Src::layout == Layout::P) {
+        if (live == laneCount<V> && src.hasObjectsSideBySide()) {
+            const V determinant =
+                invertByMinors<n, V>(lanesInPlace<V>(src.object(first, n)), inverse);
+            return isAnySingular<kind>(determinant) ? qorStatusSingular : store();
+        }
+    }
+    V sourceBlock[capacity];
+    const PackMatrix<V, N> a = {sourceBlock, n};
     loadLanes(src, first, live, n, n, a);
-    if constexpr (isFixed<N>) {
-        const V determinant = abs(invertByMinors<n, V>(a, inverse));
-        const Mask<V> fails =
-            isArray(kind) ? threshold<V>() > determinant : !(threshold<V>() <= determinant);
-        if (any(fails)) return qorStatusSingular;
+    if constexpr (hasClosedForm<N>) {
+        if (isAnySingular<kind>(invertByMinors<n, V>(a, inverse))) return qorStatusSingular;
     } else {
         V work[capacity];
         V shared[capacity];
-        const PackMatrix<V> sharedSteps = {shared, n};
-        if (any(invertByCofactors<V>(a, inverse, PackMatrix<V>{work, n}, &sharedSteps, n))) {
+        const PackMatrix<V, N> sharedSteps = {shared, n};
+        if (any(invertByCofactors<V>(a, inverse, PackMatrix<V, N>{work, n}, &sharedSteps, n))) {
             return qorStatusSingular;
         }
     }
-    storeLanes(dst, first, live, n, n, inverse);
-    return qorStatusOk;
+    return store();
 }
 
 // Objects of any size, in the caller's scratch.
@@ -110,7 +121,7 @@ qorStatus inverses(const Src& src, const Scratch<T>& scratch, const Dst& dst, Si
     const std::ptrdiff_t n = size.value;
     const std::ptrdiff_t count = countOf.value;
     if (n > mostLaneSize) return invertInScratch(src, scratch, dst, n, count);
-    return withStaticSize(n, [&](auto fixed) {
+    return withSmallSize(n, [&](auto fixed) {
         if constexpr (isArray(kind)) {
             const auto guard = readAheadOf(src, dst, n, count, laneCount<Pack<T>>);
             return inLanes<Pack<T>>(guard, count, [&]<class V>(std::ptrdiff_t first, int live) {

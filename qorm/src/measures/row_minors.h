@@ -118,8 +118,8 @@ private:
 
 // Writes the inverse of `a` to `inverse` and returns its determinant, which tells the caller whether
 // the inverse means anything.
-template <int n, class V, class Matrix>
-[[gnu::flatten]] V invertByMinors(const Matrix& a, const Matrix& inverse) {
+template <int n, class V, class Matrix, class Inverse>
+[[gnu::flatten]] V invertByMinors(const Matrix& a, const Inverse& inverse) {
     const Adjugate<V, n, Matrix> adjugate(a);
     V determinant;
     V reciprocal;
