@@ -1,5 +1,6 @@
-// Determinant and inverse by cofactors, for elements of any kind of value: a(i, j) gives one, and to
-// d(i, j) one is assigned. Always part of the loop over objects, which compilers then make vectors of.
+// Determinant and inverse by cofactors, for elements of any kind of value: a(i, j) gives one, and
+// to d(i, j) one is assigned. Always part of the loop over objects, of which compilers then make
+// vectors.
 #pragma once
 
 namespace bench {
@@ -67,8 +68,8 @@ template <int n, class Matrix, class Inverse>
         const auto s = pairMinors(a, 0, 1);
         const auto t = pairMinors(a, 2, 3);
         const Value r = 1 / determinantOf(s, t);
-        // Column j, the cofactors of row j: from the other one of its pair of rows and the minors of
-        // the other pair.
+        // Column j, the cofactors of row j: from row i, the other one of its pair, and the minors
+        // of the other pair.
         const auto setColumn = [&](int j, int i, const auto& m) {
             const Value even = j % 2 == 0 ? r : -r;
             const Value odd = -even;

@@ -7,8 +7,8 @@
 
 namespace bench {
 
-// Element p of object k lies at base[p * step + k]. Both base and step are multiples of a cache line,
-// and what lies behind the last object up to the end of its line may be read and written.
+// Element p of object k lies at base[p * step + k]. Both base and step are multiples of a cache
+// line, and what lies behind the last object up to the end of its line may be read and written.
 template <class T>
 struct Planes {
     T* base;

@@ -1,6 +1,6 @@
-// Determinants and inverses beside a plain loop whose strides the compiler knows (by cofactors up to
-// 4x4, by elimination with partial pivoting beyond), Eigen's fixed sizes, and LAPACK, which gets a
-// call per matrix. The limit works on matrices that lie in lanes, and need no pivoting.
+// Determinants and inverses beside a plain loop whose strides the compiler knows (by cofactors up
+// to 4x4, by elimination with partial pivoting beyond), Eigen's fixed sizes, and LAPACK, which gets
+// a call per matrix. The limit works on matrices that lie in lanes and need no pivoting.
 #include "closed_forms.h"
 #include "eigen_maps.h"
 #include "objects.h"

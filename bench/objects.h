@@ -14,8 +14,8 @@
 
 namespace bench {
 
-// work(d), where what it writes through d is read through no other pointer. All that it calls becomes
-// part of it: as much as compilers can make of a loop over objects.
+// work(d), where what it writes through d is read through no other pointer. All that it calls
+// becomes part of it: compilers make of a loop over objects what they can.
 template <class T, class Work>
 [[gnu::noinline, gnu::flatten]] void writeTo(T* __restrict d, const Work& work) {
     work(d);

@@ -22,8 +22,8 @@ bool inShares(int threads, std::ptrdiff_t all, const Work& work) {
     return true;
 }
 
-// "memcpy" between plain arrays moves as many bytes as the subject, "peak" does as many products and
-// sums in registers.
+// "memcpy" between plain arrays moves as many bytes as the subject, "peak" does as many products
+// and sums in registers.
 template <class T>
 std::vector<Contender> roofline(const Subject& subject, int threads) {
     const auto half = static_cast<std::ptrdiff_t>(subject.bytes * subject.count / sizeof(T) / 2);
