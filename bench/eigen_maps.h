@@ -1,4 +1,4 @@
-// Rows of n elements in memory as Eigen's matrices of fixed size.
+// Rows of elements in memory as Eigen's matrices of fixed size.
 #pragma once
 
 #include <Eigen/Core>
@@ -6,16 +6,17 @@
 
 namespace bench {
 
-template <class T, int n>
-using EigenMatrix = Eigen::Matrix<T, n, n, Eigen::RowMajor>;
+template <class T, int rows, int columns = rows>
+using EigenMatrix = Eigen::Matrix<T, rows, columns, Eigen::RowMajor>;
 
 // A map with an explicit step is never taken for one run of elements, even if it is one.
-template <int n, int rowStep>
+template <int columns, int rowStep>
 using EigenStride =
-    std::conditional_t<rowStep == n, Eigen::Stride<0, 0>, Eigen::OuterStride<rowStep>>;
+    std::conditional_t<rowStep == columns, Eigen::Stride<0, 0>, Eigen::OuterStride<rowStep>>;
 
-template <class T, int n, int rowStep>
-using ConstMap = Eigen::Map<const EigenMatrix<T, n>, 0, EigenStride<n, rowStep>>;
+template <class T, int rows, int rowStep, int columns = rows>
+using ConstMap =
+    Eigen::Map<const EigenMatrix<T, rows, columns>, 0, EigenStride<columns, rowStep>>;
 template <class T, int n, int rowStep>
 using Map = Eigen::Map<EigenMatrix<T, n>, 0, EigenStride<n, rowStep>>;
 

@@ -1,9 +1,14 @@
 #include "lanes.h"
 
 #include "closed_forms.h"
+#include "factors.h"
 
 #include <type_traits>
 #include <utility>
+
+#if defined(__SSE__)
+#include <immintrin.h>
+#endif
 
 namespace bench {
 
@@ -119,6 +124,158 @@ void registerByRegister(int size, std::ptrdiff_t count, const Work& work) {
     (std::integer_sequence<int, 2, 3, 4, 5, 6, 8, 16>());
 }
 
+template <class T>
+struct LaneMath {
+    using Bits = decltype(Register<T>() < Register<T>());
+
+    static Register<T> number(int i) { return Register<T>{} + T(i); }
+    static Register<T> magnitude(Register<T> x) {
+        const Register<T> signs = -Register<T>{};
+        return (Register<T>)((Bits)x & ~(Bits)signs);
+    }
+    static Register<T> root(Register<T> x) {
+        for (int lane = 0; lane < lanes<T>; ++lane) x[lane] = std::sqrt(x[lane]);
+        return x;
+    }
+    // As in the library: an estimate of 12 bits and a step of Newton's method where there is one.
+    static Register<T> reciprocalRoot(Register<T> x) {
+        if constexpr (sizeof(T) == 4) {
+            const Register<T> r = estimate(x);
+            return r * (x * r * r - 3) * T(-0.5);
+        } else {
+            return 1 / root(x);
+        }
+    }
+
+private:
+    static Register<T> estimate(Register<T> x) {
+#if defined(__AVX512F__)
+        // The unmasked intrinsic warns in GCC 12.
+        return _mm512_maskz_rsqrt14_ps(0xFFFF, x);
+#elif defined(__AVX__)
+        return _mm256_rsqrt_ps(x);
+#elif defined(__SSE__)
+        return _mm_rsqrt_ps(x);
+#else
+        return 1 / root(x);
+#endif
+    }
+};
+
+template <class T, Factorisation factorisation>
+auto kernelOf() {
+    if constexpr (factorisation == Factorisation::lu) return Lu<StepBySelection<LaneMath<T>>>();
+    if constexpr (factorisation == Factorisation::cholesky) return Cholesky<LaneMath<T>>();
+    if constexpr (factorisation == Factorisation::qr) return Qr<LaneMath<T>>();
+}
+
+// Values of the objects from k on, one below the other, by number or by a register of numbers.
+template <class T, int n>
+struct Column {
+    Planes<T> values;
+    std::ptrdiff_t k;
+
+    Register<T>& operator()(int i) const { return at(values.base + i * values.step + k); }
+    Register<T> operator()(const Register<T>& numbers) const {
+        Register<T> chosen = (*this)(0);
+#pragma GCC unroll 16
+        for (int i = 1; i < n; ++i) chosen = numbers == T(i) ? (*this)(i) : chosen;
+        return chosen;
+    }
+};
+
+template <class T, Factorisation factorisation, int rows, int columns>
+struct LaneTasks {
+    using Kernel = decltype(kernelOf<T, factorisation>());
+    using Matrix = Register<T>[rows][columns];
+    static constexpr int extras = Kernel::template extras<rows, columns>;
+    using Extras = Register<T>[rows];
+
+    const SystemsInLanes<T>& systems;
+
+    template <class Work>
+    static void forUsed(const Work& work) {
+#pragma GCC unroll 16
+        for (int i = 0; i < rows; ++i) {
+#pragma GCC unroll 16
+            for (int j = 0; j < columns; ++j) {
+                if (Kernel::uses(i, j)) work(i, j);
+            }
+        }
+    }
+    // One object's values in all lanes, or those of the objects from k on.
+    template <bool isOne>
+    static Register<T> values(const Register<T>& from) {
+        return isOne ? Register<T>{} + from[0] : from;
+    }
+    static void load(Planes<T> from, std::ptrdiff_t k, Matrix& m) {
+        const auto elements = elementsOf(from, columns, k);
+        forUsed([&](int i, int j) { m[i][j] = elements(i, j); });
+    }
+    template <bool isOne>
+    void loadFactors(std::ptrdiff_t k, Matrix& m, Extras& e) const {
+        const auto elements = elementsOf(systems.factors, columns, k);
+        forUsed([&](int i, int j) { m[i][j] = values<isOne>(elements(i, j)); });
+        const Column<T, rows> kept = {systems.extras, k};
+        for (int i = 0; i < extras; ++i) e[i] = values<isOne>(kept(i));
+    }
+    template <class Vector>
+    void storeSolution(const Vector& x, std::ptrdiff_t k) const {
+        const Column<T, columns> to = {systems.x, k};
+        for (int i = 0; i < columns; ++i) to(i) = x[i];
+    }
+
+    void factor(std::ptrdiff_t k) const {
+        Matrix m;
+        Extras e;
+        load(systems.a, k, m);
+        Kernel::template factor<rows, columns>(m, e);
+        const auto elements = elementsOf(systems.factors, columns, k);
+        forUsed([&](int i, int j) { elements(i, j) = m[i][j]; });
+        const Column<T, rows> kept = {systems.extras, k};
+        for (int i = 0; i < extras; ++i) kept(i) = e[i];
+    }
+    void solve(const Matrix& m, const Extras& e, std::ptrdiff_t k) const {
+        Register<T> x[rows];
+        Kernel::template solve<rows, columns>(m, e, Column<T, rows>{systems.b, k}, x);
+        storeSolution(x, k);
+    }
+    void solve(std::ptrdiff_t k) const {
+        Matrix m;
+        Extras e;
+        loadFactors<false>(k, m, e);
+        solve(m, e, k);
+    }
+    void factorAndSolve(std::ptrdiff_t k) const {
+        Matrix m;
+        Register<T> x[rows];
+        load(systems.a, k, m);
+        const Column<T, rows> b = {systems.b, k};
+        for (int i = 0; i < rows; ++i) x[i] = b(i);
+        Kernel::template factorAndSolve<rows, columns>(m, x);
+        storeSolution(x, k);
+    }
+
+    void run(Task task) const {
+        const auto forRegisters = [&](const auto& work) {
+            for (std::ptrdiff_t k = 0; k < systems.count; k += lanes<T>) work(k);
+        };
+        switch (task) {
+        case Task::factor:
+            return forRegisters([&](std::ptrdiff_t k) { factor(k); });
+        case Task::solve:
+            return forRegisters([&](std::ptrdiff_t k) { solve(k); });
+        case Task::factorAndSolve:
+            return forRegisters([&](std::ptrdiff_t k) { factorAndSolve(k); });
+        case Task::solveWithOne:
+            Matrix m;
+            Extras e;
+            loadFactors<true>(0, m, e);
+            return forRegisters([&](std::ptrdiff_t k) { solve(m, e, k); });
+        }
+    }
+};
+
 } // namespace
 
 template <class T, SingleOperand single>
@@ -165,6 +322,19 @@ void invertInLanes(int size, Planes<T> a, Planes<T> d, std::ptrdiff_t count) {
     });
 }
 
+template <class T, Factorisation factorisation>
+void runInLanes(Task task, const SystemsInLanes<T>& systems) {
+    const auto runSize = [&]<int rows, int columns>() {
+        if (rows != systems.rows || columns != systems.columns) return;
+        LaneTasks<T, factorisation, rows, columns>{systems}.run(task);
+    };
+    [&]<int... sizes>(std::integer_sequence<int, sizes...>) {
+        (runSize.template operator()<sizes, sizes>(), ...);
+    }
+    (std::integer_sequence<int, 3, 4, 5, 6, 8, 16>());
+    if constexpr (factorisation == Factorisation::qr) runSize.template operator()<8, 4>();
+}
+
 template <class T>
 void multiplyAndAdd(std::ptrdiff_t operations) {
     // Independent chains, enough to hide the latency of one operation.
@@ -186,12 +356,17 @@ void multiplyAndAdd(std::ptrdiff_t operations) {
 
 #define BENCH_MULTIPLY(T, single) \
     template void multiplyInLanes<T, single>(int, Planes<T>, Planes<T>, Planes<T>, std::ptrdiff_t);
+#define BENCH_FACTORISATION(T, factorisation) \
+    template void runInLanes<T, factorisation>(Task, const SystemsInLanes<T>&);
 #define BENCH_LANES(T) \
     BENCH_MULTIPLY(T, SingleOperand::none) \
     BENCH_MULTIPLY(T, SingleOperand::first) \
     BENCH_MULTIPLY(T, SingleOperand::second) \
     template void determinantsInLanes(int, Planes<T>, T*, std::ptrdiff_t); \
     template void invertInLanes(int, Planes<T>, Planes<T>, std::ptrdiff_t); \
+    BENCH_FACTORISATION(T, Factorisation::lu) \
+    BENCH_FACTORISATION(T, Factorisation::cholesky) \
+    BENCH_FACTORISATION(T, Factorisation::qr) \
     template void multiplyAndAdd<T>(std::ptrdiff_t);
 BENCH_LANES(float)
 BENCH_LANES(double)

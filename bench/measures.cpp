@@ -3,6 +3,7 @@
 // a call per matrix. The limit works on matrices that lie in lanes and need no pivoting.
 #include "closed_forms.h"
 #include "eigen_maps.h"
+#include "factors.h"
 #include "objects.h"
 #include "roofline.h"
 
@@ -28,17 +29,9 @@ struct Measure {
                              : Matrices<T>(n, n, count, placement);
     std::vector<T> scratch = std::vector<T>(static_cast<std::size_t>(n * n + n));
 
-    // Each row has an element that dominates it: on the diagonal or, for a search of pivots that
-    // finds something to exchange, on the diagonal turned to the right.
     Measure(int size, int objects, Placement where, bool exchanged)
         : n(size), count(objects), placement(where) {
-        for (int k = 0; k < count; ++k) {
-            const int turn = exchanged ? static_cast<int>(bench::random()() % n) : 0;
-            for (int i = 0; i < n; ++i) {
-                for (int j = 0; j < n; ++j) source(k, i, j) = randomValue<T>();
-                source(k, i, (i + turn) % n) += static_cast<T>(n);
-            }
-        }
+        source.fillDominated(exchanged);
     }
 
     bool library(int threads) {
@@ -57,17 +50,6 @@ struct Measure {
         return true;
     }
 };
-
-// Swaps row p with the one below it that has the largest element in column p, and tells which.
-template <class T, int n>
-int exchangeRows(T (&m)[n][n], int p) {
-    int pivot = p;
-    for (int i = p + 1; i < n; ++i) {
-        if (std::abs(m[i][p]) > std::abs(m[pivot][p])) pivot = i;
-    }
-    if (pivot != p) std::swap(m[pivot], m[p]);
-    return pivot;
-}
 
 template <class T, int n>
 T eliminate(T (&m)[n][n]) {
@@ -227,9 +209,7 @@ struct PeersOf {
 // Of an elimination; closed forms have about as many up to 4x4.
 constexpr double operationsOf(Operation operation, int n) {
     if (operation == Operation::inverse) return n * (2.0 * n * (n - 1) + 1);
-    double sum = n - 1;
-    for (int rest = 1; rest < n; ++rest) sum += rest * (2.0 * rest + 1);
-    return sum;
+    return n - 1 + eliminationOperations(n);
 }
 
 template <class T, Operation operation>

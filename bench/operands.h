@@ -11,6 +11,7 @@
 #include <cstdlib>
 #include <memory>
 #include <new>
+#include <numeric>
 #include <random>
 #include <tuple>
 #include <utility>
@@ -103,6 +104,31 @@ public:
     void fillRandomly() const {
         forEach([](T& x) { x = randomValue<T>(); });
     }
+    // One element dominates its row and its column: on the diagonal or, for a search of pivots that
+    // finds something to exchange, anywhere.
+    void fillDominated(bool exchanged) const {
+        fillRandomly();
+        std::vector<int> order(static_cast<std::size_t>(rows));
+        std::iota(order.begin(), order.end(), 0);
+        for (int k = 0; k < count; ++k) {
+            if (exchanged) std::shuffle(order.begin(), order.end(), random());
+            for (int j = 0; j < columns; ++j) (*this)(k, order[j], j) += static_cast<T>(rows);
+        }
+    }
+    // m m^T + n I
+    void fillPositiveDefinite() const {
+        const int n = rows;
+        std::vector<T> m(static_cast<std::size_t>(n * n));
+        for (int k = 0; k < count; ++k) {
+            std::generate(m.begin(), m.end(), randomValue<T>);
+            for (int i = 0; i < n; ++i) {
+                for (int j = 0; j < n; ++j) {
+                    (*this)(k, i, j) = std::inner_product(&m[i * n], &m[i * n] + n, &m[j * n],
+                                                          static_cast<T>(i == j ? n : 0));
+                }
+            }
+        }
+    }
     // The sum of squares of all elements, which become zero.
     double takeSquares() const {
         double sum = 0;
@@ -148,6 +174,22 @@ struct Single {
     auto pointerPerObject() const {
         const auto [table, shift, stride1, stride2] = matrices.pointerPerObject();
         return std::tuple(table[0], stride1, stride2);
+    }
+};
+
+// The rows of an array of 1 x n matrices as vectors.
+template <class T>
+struct Vectors {
+    const Matrices<T>& rows;
+
+    auto strides() const {
+        const auto [base, stride0, stride1, stride2] = rows.strides();
+        return std::tuple(base, stride0, stride2);
+    }
+    auto pointerPerElement() const { return rows.pointerPerElement(); }
+    auto pointerPerObject() const {
+        const auto [table, shift, stride1, stride2] = rows.pointerPerObject();
+        return std::tuple(table, shift, stride2);
     }
 };
 

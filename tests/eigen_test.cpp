@@ -1,30 +1,14 @@
 // The symmetric eigenproblem: bit by bit against a scalar model, wherever the operands lie and in
 // whatever lane an object is computed, and the properties of the results that no model can vouch for.
 #include "eigen_oracle.h"
-#include "harness/call.h"
+#include "harness/trial.h"
 
-#include "qorcore.h"
-#include "qorm/types.h"
-
-#include <algorithm>
 #include <array>
-#include <functional>
-#include <gtest/gtest.h>
 
 namespace {
 
 using namespace harness;
 using eigen_oracle::Eigen;
-
-constexpr double infinity = std::numeric_limits<double>::infinity();
-
-double uniform(Random& random) {
-    return static_cast<double>(static_cast<std::int64_t>(random())) * 0x1p-63;
-}
-
-int integer(Random& random, int low, int high) {
-    return low + static_cast<int>(random() % static_cast<std::uint64_t>(high - low + 1));
-}
 
 // Makes element (i, j) of a matrix of size n; the bounds are those of the type. Only `lopsided` is
 // asked for the elements below the diagonal.
@@ -32,7 +16,7 @@ struct Place {
     int i, j, n;
     double eps, smallest, largest;
 };
-using Input = double(const Place&, Random&);
+using Entry = double(const Place&, Random&);
 
 double grade(const Place& at) {
     return std::pow(10, 16.0 * at.j / std::max(1, at.n - 1) - 8);
@@ -51,7 +35,7 @@ double negativeDefinite(const Place& at, Random& random) {
     return at.i == at.j ? uniform(random) - at.n - 1 : uniform(random);
 }
 
-constexpr Input* inputs[] = {
+constexpr Entry* entries[] = {
     dense,
     lopsided,
     singular,
@@ -80,7 +64,7 @@ constexpr Input* inputs[] = {
 };
 
 template <class T>
-Matrix<T> generated(Input* input, int n, Random& random) {
+Matrix<T> generated(Entry* input, int n, Random& random) {
     using Limits = std::numeric_limits<T>;
     Matrix<T> matrix{n, std::vector<T>(static_cast<std::size_t>(n * n))};
     for (int i = 0; i < n; ++i) {
@@ -116,10 +100,6 @@ double unsettled(const Place& at, Random&) {
     return found(at.i, at.j);
 }
 
-Sizes sizesOf(int n, int count) {
-    return {{"widthHeight", n}, {"count", count}};
-}
-
 bool hasVectors(const Function& function) {
     return function.operation == "EigenValuesVectorsSym";
 }
@@ -142,26 +122,18 @@ qorStatus expectObject(const Call& call, const Function& function, int k) {
     return status;
 }
 
-// How the library differs from the model, which goes through the objects in their order, in a run
-// for each thread, and ends a run at the first object that fails.
+// How the library differs from the model.
 template <class T>
 std::string faultOf(Call& call, const Function& function, const Library& library) {
-    const int objects = call.operand("Src").objects;
-    const int threads = function.array ? qorGetThreadCount() : 1;
-    std::vector<qorStatus> failures;
     std::vector<int> unsettled;
-    for (int thread = 0, k = 0; thread < threads; ++thread) {
-        const int end = k + objects / threads + (thread < objects % threads ? 1 : 0);
-        qorStatus status = qorStatusOk;
-        for (; k < end && status == qorStatusOk; ++k) status = expectObject<T>(call, function, k);
-        if (status != qorStatusOk) failures.push_back(status);
-        if (status == qorStatusNoConvergence) unsettled.push_back(k - 1);
-        k = end;
-    }
+    const int threads = function.array ? qorGetThreadCount() : 1;
+    const auto statuses = statusesOfRuns(call.operand("Src").objects, threads, [&](int k) {
+        const qorStatus status = expectObject<T>(call, function, k);
+        if (status == qorStatusNoConvergence) unsettled.push_back(k);
+        return status;
+    });
     const qorStatus got = call.run(library);
-    const bool known = failures.empty() ? got == qorStatusOk
-                                        : std::count(failures.begin(), failures.end(), got) > 0;
-    if (!known) return "status " + std::to_string(got);
+    if (!isAnswer(got, statuses)) return "status " + std::to_string(got);
     const Operand& values = call.operand("DstValues");
     for (const int k : unsettled) { // their values are meaningless
         for (int j = 0; j < values.columns; ++j) values.expect(k, 0, j, values.get<T>(k, 0, j));
@@ -180,60 +152,26 @@ const Placement placements[] = {
     {.name = "interleaved elements", .sharing = Placement::interleavedElements},
 };
 
-// One call in every variant of the library.
-struct Trial {
-    int n;
-    int count;
-    const Placement& placement;
-    Input* others = dense;
-    Input* special = dense;
-    int position = -1; // of the special object; by default one by chance, or all of them
-    std::string_view inPlaceOf = {};
-    std::function<void(Call&)> rearrange = [](Call&) {};
-};
-
-class SymmetricEigen : public testing::TestWithParam<Function> {
-protected:
-    const Function& function = GetParam();
-
-    void SetUp() override { qorSetThreadCount(1); }
-
-    void test(const Trial& trial) {
-        ++seed;
-        for (const Library& library : libraries()) {
-            Call call(function, sizesOf(trial.n, trial.count), trial.placement, seed,
-                      trial.inPlaceOf);
-            trial.rearrange(call);
-            const std::string fault = withType(function, [&]<class T>(T) {
-                fill<T>(call.operand("Src"), trial);
-                return faultOf<T>(call, function, library);
-            });
-            ASSERT_EQ(fault, "") << call.describe();
-        }
+class SymmetricEigen : public Trials<Entry, dense> {
+    void setObject(const Call& call, int k, Entry* input, Random& random) const override {
+        withType(function, [&]<class T>(T) {
+            const Operand& source = call.operand("Src");
+            setMatrix(source, k, generated<T>(input, source.rows, random));
+        });
     }
-
-    template <class T>
-    static void fill(const Operand& source, const Trial& trial) {
-        Random random(seed);
-        const bool allSpecial = trial.position < 0 && integer(random, 0, 1) == 1;
-        const int position = trial.position < 0 ? integer(random, 0, source.objects - 1)
-                                                : std::min(trial.position, source.objects - 1);
-        for (int k = 0; k < source.objects; ++k) {
-            Input* input = allSpecial || k == position ? trial.special : trial.others;
-            setMatrix(source, k, generated<T>(input, trial.n, random));
-        }
+    std::string faultOf(Call& call, const Library& library) const override {
+        return withType(function,
+                        [&]<class T>(T) { return ::faultOf<T>(call, function, library); });
     }
-
-    static inline std::uint64_t seed = 0;
 };
 
 TEST_P(SymmetricEigen, ofAllInputsInAllPlacements) {
     std::size_t next = 0;
     for (const int n : {1, 2, 3, 4, 5, 6, 7, 8, 16, 17}) {
-        for (Input* input : inputs) {
+        for (Entry* input : entries) {
             for (const int count : {1, 3, 37}) {
                 const Placement& placement = placements[next++ % std::size(placements)];
-                test({.n = n, .count = count, .placement = placement, .special = input});
+                test({.size = n, .count = count, .placement = placement, .special = input});
             }
         }
     }
@@ -244,7 +182,7 @@ TEST_P(SymmetricEigen, onThreads) {
     for (const int threads : {1, 2, 3, 7}) {
         qorSetThreadCount(threads);
         for (const Placement& placement : {placements[0], placements[2], placements[5]}) {
-            test({.n = 6, .count = 960, .placement = placement, .special = singular});
+            test({.size = 6, .count = 960, .placement = placement, .special = singular});
         }
     }
 }
@@ -252,9 +190,9 @@ TEST_P(SymmetricEigen, onThreads) {
 // Wherever in a block of lanes or in its tail an object fails: those before it are complete, its
 // own state is the one that the model leaves, those behind it are untouched.
 TEST_P(SymmetricEigen, endsAtTheObjectThatFails) {
-    Input* const doesNotSettle = function.elementSize == 4 ? unsettled<float> : unsettled<double>;
+    Entry* const doesNotSettle = function.elementSize == 4 ? unsettled<float> : unsettled<double>;
     for (int position = 0; position < (function.array ? 35 : 1); ++position) {
-        const auto failAt = [&](int n, Input* failing) {
+        const auto failAt = [&](int n, Entry* failing) {
             test({n, 35, placements[position % 3], negativeDefinite, failing, position});
         };
         failAt(2, singular);
@@ -267,17 +205,9 @@ TEST_P(SymmetricEigen, vectorsInPlaceOfTheSource) {
     for (const Placement& placement : placements) {
         const bool bothAlike = placement.gapsOnlyIn < 0 && placement.sharing == Placement::apart;
         for (const int n : {1, 2, 3, 5, 8}) {
-            if (bothAlike) test({.n = n, .count = 33, .placement = placement, .inPlaceOf = "Src"});
+            if (bothAlike)
+                test({.size = n, .count = 33, .placement = placement, .inPlaceOf = "Src"});
         }
-    }
-}
-
-void moveBack(Operand& operand, int elements) {
-    const int bytes = elements * operand.elementSize;
-    if (operand.table) {
-        operand.shift -= bytes;
-    } else {
-        operand.base -= bytes;
     }
 }
 
@@ -304,7 +234,7 @@ TEST_P(SymmetricEigen, resultsOverOtherSources) {
                     }
                 };
                 SCOPED_TRACE("results " + std::to_string(ahead) + " elements ahead");
-                test({.n = 3, .count = 20, .placement = placement, .rearrange = overlap});
+                test({.size = 3, .count = 20, .placement = placement, .rearrange = overlap});
             }
         }
     }
@@ -321,7 +251,7 @@ TEST_P(SymmetricEigen, vectorsOverOtherVectors) {
         };
         // Lists have no stride from object to object.
         if (function.layout != Layout::L)
-            test({.n = 3, .count = 20, .placement = placements[0], .rearrange = overlap});
+            test({.size = 3, .count = 20, .placement = placements[0], .rearrange = overlap});
     }
 }
 

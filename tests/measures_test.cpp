@@ -1,174 +1,19 @@
 // Determinant and inverse: bit by bit against a scalar model, wherever the operands lie and in
 // whatever lane an object is computed, and the results that no model can vouch for.
 #include "harness/placements.h"
+#include "harness/trial.h"
 #include "measures_oracle.h"
-
-#include "qorcore.h"
-#include "qorm/types.h"
-
-#include <functional>
-#include <gtest/gtest.h>
-#include <span>
 
 namespace {
 
 using namespace harness;
+using harness::nan;
 using measures_oracle::isClosed;
-
-constexpr double nan = std::numeric_limits<double>::quiet_NaN();
-constexpr double infinity = std::numeric_limits<double>::infinity();
-
-double uniform(Random& random) {
-    return static_cast<double>(static_cast<std::int64_t>(random())) * 0x1p-63;
-}
-int integer(Random& random, int low, int high) {
-    return low + static_cast<int>(random() % static_cast<std::uint64_t>(high - low + 1));
-}
-template <std::size_t size>
-double oneOf(const double (&values)[size], Random& random) {
-    return values[random() % size];
-}
-double zero(Random& random) {
-    return oneOf({0.0, -0.0}, random);
-}
-double unit(Random& random) {
-    return oneOf({1.0, -1.0}, random);
-}
-
-// Makes a matrix of size n; the bounds are those of the type.
-struct Bounds {
-    double eps, smallest, largest;
-
-    double nearEps(Random& r) const {
-        return oneOf({eps - eps * eps / 2, eps, eps + eps * eps}, r);
-    }
-};
-using M = Matrix<double>;
-using Input = M(int n, const Bounds&, Random&);
-
-template <class Value>
-M made(int n, const Value& value) {
-    M matrix{n, {}};
-    for (int i = 0; i < n; ++i) {
-        for (int j = 0; j < n; ++j) matrix.elements.push_back(value(i, j));
-    }
-    return matrix;
-}
-M scaled(double scale, int n, Random& r) {
-    return made(n, [&](int, int) { return scale * uniform(r); });
-}
-M integers(int n, int largest, Random& r) {
-    return made(n, [&](int, int) { return integer(r, -largest, largest); });
-}
-M withRowsShuffled(M matrix, Random& r) {
-    for (int i = matrix.n; i > 1; --i) {
-        const int other = integer(r, 0, i - 1);
-        for (int j = 0; j < matrix.n; ++j) std::swap(matrix(i - 1, j), matrix(other, j));
-    }
-    return matrix;
-}
-template <std::size_t size>
-M sprinkled(const double (&values)[size], M matrix, Random& r) {
-    for (int k = integer(r, 1, 3); k > 0; --k) {
-        matrix(integer(r, 0, matrix.n - 1), integer(r, 0, matrix.n - 1)) = oneOf(values, r);
-    }
-    return matrix;
-}
-
-M dense(int n, const Bounds&, Random& r) {
-    return scaled(1, n, r);
-}
-M dominant(int n, const Bounds&, Random& r) {
-    return made(n, [&](int i, int j) { return uniform(r) + (i == j ? n * unit(r) : 0); });
-}
-M rowTwice(int n, const Bounds&, Random& r) {
-    M matrix = integers(n, 3, r);
-    const int i = integer(r, 0, n - 1);
-    for (int j = 0; j < n; ++j) matrix(i, j) = n > 1 ? matrix((i + 1) % n, j) : 0;
-    return matrix;
-}
-
-// Ties of pivots that leave rounding errors.
-M roundingTies(int n, const Bounds&, Random& r) {
-    return made(n, [&](int, int) { return 0.3 * integer(r, -2, 2); });
-}
-
-// The diagonal holds the pivots, but for the order of rows. One of them is at the threshold; so is
-// the determinant.
-M triangular(int n, const Bounds& of, Random& r) {
-    M matrix = made(n, [&](int i, int j) {
-        return i > j ? zero(r) : i == j ? unit(r) : integer(r, -2, 2);
-    });
-    const int k = integer(r, 0, 2) * (n - 1) / 2;
-    matrix(k, k) = of.nearEps(r) * unit(r);
-    return withRowsShuffled(matrix, r);
-}
-
-constexpr Input* inputs[] = {
-    dense,
-    dominant,
-    rowTwice,
-    triangular,
-    [](int n, const Bounds&, Random& r) { return integers(n, 1, r); },
-    [](int n, const Bounds&, Random& r) { return integers(n, 3, r); },
-    roundingTies,
-    [](int n, const Bounds&, Random& r) { return made(n, [&](int, int) { return unit(r); }); },
-    [](int n, const Bounds&, Random& r) {
-        return made(n, [&](int, int) { return oneOf({0.0, -0.0, 1.0, -1.0}, r); });
-    },
-    [](int n, const Bounds&, Random& r) { // permutations
-        return withRowsShuffled(
-            made(n, [&](int i, int j) { return i == j ? uniform(r) : zero(r); }), r);
-    },
-    [](int n, const Bounds&, Random& r) { // blocks on the diagonal
-        return made(n, [&](int i, int j) { return i / 2 == j / 2 ? uniform(r) : zero(r); });
-    },
-    [](int n, const Bounds&, Random& r) { // zeros of both signs
-        return made(n, [&](int, int) { return integer(r, 0, 4) > 0 ? zero(r) : unit(r); });
-    },
-    [](int n, const Bounds& of, Random& r) { // a column of zeros
-        const int zeros = integer(r, 0, n - 1);
-        const double scale = oneOf({1, std::pow(of.largest, 0.7)}, r);
-        return made(n, [&](int, int j) { return j == zeros ? zero(r) : scale * uniform(r); });
-    },
-    [](int n, const Bounds& of, Random& r) { // minors with pivots at the threshold
-        return withRowsShuffled(
-            made(n, [&](int i,
-                        int j) { return i == j ? unit(r) : of.nearEps(r) * integer(r, -1, 1); }),
-            r);
-    },
-    [](int n, const Bounds& of, Random& r) { // determinants around the threshold
-        return scaled(2 * std::pow(of.eps, 1.0 / n), n, r);
-    },
-    [](int n, const Bounds& of, Random& r) { return scaled(of.eps * 4, n, r); },
-    [](int n, const Bounds&, Random& r) {
-        return made(n, [&](int, int) { return uniform(r) * std::pow(10, integer(r, -8, 8)); });
-    },
-    [](int n, const Bounds& of, Random& r) { return scaled(of.smallest, n, r); },
-    [](int n, const Bounds& of, Random& r) { return scaled(std::sqrt(of.smallest), n, r); },
-    [](int n, const Bounds& of, Random& r) { return scaled(of.largest, n, r); },
-    [](int n, const Bounds& of, Random& r) { return scaled(std::sqrt(of.largest), n, r); },
-    [](int n, const Bounds& of, Random& r) { return sprinkled({nan}, dense(n, of, r), r); },
-    [](int n, const Bounds& of, Random& r) {
-        return sprinkled({infinity, -infinity}, dense(n, of, r), r);
-    },
-    [](int n, const Bounds&, Random& r) {
-        return sprinkled({nan, infinity, 0, -infinity}, integers(n, 1, r), r);
-    },
-    [](int n, const Bounds& of, Random& r) {
-        return sprinkled({nan, infinity}, triangular(n, of, r), r);
-    },
-};
 
 template <class T>
 Matrix<T> generated(Input* input, int n, Random& random) {
-    using Limits = std::numeric_limits<T>;
-    const M matrix = input(n, {Limits::epsilon(), Limits::min(), Limits::max()}, random);
+    const Numbers matrix = input(n, Bounds::of<T>(), random);
     return {n, {matrix.elements.begin(), matrix.elements.end()}};
-}
-
-Sizes sizesOf(int n, int count) {
-    return {{"widthHeight", n}, {"count", count}};
 }
 
 bool inverts(const Function& function) {
@@ -192,89 +37,43 @@ bool expectObject(const Call& call, const Function& function, int k) {
     return true;
 }
 
-// How the library differs from the model, which goes through the objects in their order, in a run
-// for each thread, and ends a run at the first object that fails. All calls on several threads are
-// large enough to spread.
-template <class T>
-std::string faultOf(Call& call, const Function& function, const Library& library) {
-    const Operand& source = call.operand("Src");
-    const bool stays = !function.array || (inverts(function) && source.rows == 1);
-    const int threads = stays ? 1 : qorGetThreadCount();
-    qorStatus status = qorStatusOk;
-    for (int thread = 0, k = 0; thread < threads; ++thread) {
-        const int end = k + source.objects / threads + (thread < source.objects % threads ? 1 : 0);
-        while (k < end && expectObject<T>(call, function, k)) ++k;
-        if (k < end) status = qorStatusSingular;
-        k = end;
-    }
-    const std::int32_t got = call.run(library);
-    if (got != status) return "status " + std::to_string(got);
-    const bool needsScratch =
-        threads == 1 && !isClosed(source.rows) && !(inverts(function) && source.rows == 1);
-    if (!needsScratch && !call.scratch()->isUntouched(0)) return "the scratch was touched";
-    return call.difference();
-}
-
 const std::vector<Placement> placements = usualPlacementsAnd({
     {.name = "only the source's elements apart", .elementGap = 2, .gapsOnlyIn = 0},
     {.name = "only the destination's elements apart", .elementGap = 2, .gapsOnlyIn = 1},
 });
 
-// One call in every variant of the library.
-struct Trial {
-    int n;
-    int count;
-    const Placement& placement;
-    Input* others = dominant;
-    Input* special = dominant;
-    int position = -1; // of the special object; by default one by chance, or all of them
-    std::string_view inPlaceOf = {};
-    std::function<void(Call&)> rearrange = [](Call&) {};
-};
+class Measures : public Trials<Input, dominant> {
+    void setObject(const Call& call, int k, Input* input, Random& random) const override {
+        withType(function, [&]<class T>(T) {
+            const Operand& source = call.operand("Src");
+            setMatrix(source, k, generated<T>(input, source.rows, random));
+        });
+    }
 
-class Measures : public testing::TestWithParam<Function> {
-protected:
-    const Function& function = GetParam();
+    bool fails(const Call& call, int k) const override {
+        return inverts(function) && withType(function, [&]<class T>(T) {
+                   const auto matrix = expectedMatrix<T>(call.operand("Src"), k);
+                   return !measures_oracle::inverse(matrix, function.array);
+               });
+    }
 
-    void SetUp() override { qorSetThreadCount(1); }
-
-    void test(const Trial& trial, std::size_t firstLibrary = 0) {
-        ++seed;
-        for (const Library& library : std::span(libraries()).subspan(firstLibrary)) {
-            Call call(function, sizesOf(trial.n, trial.count), trial.placement, seed,
-                      trial.inPlaceOf);
-            trial.rearrange(call);
-            withType(function, [&]<class T>(T) {
-                fill<T>(call.operand("Src"), trial);
-                ASSERT_EQ(faultOf<T>(call, function, library), "") << call.describe();
+    // All calls on several threads are large enough to spread.
+    std::string faultOf(Call& call, const Library& library) const override {
+        const Operand& source = call.operand("Src");
+        const bool stays = !function.array || (inverts(function) && source.rows == 1);
+        const int threads = stays ? 1 : qorGetThreadCount();
+        const auto statuses = statusesOfRuns(source.objects, threads, [&](int k) {
+            return withType(function, [&]<class T>(T) {
+                return expectObject<T>(call, function, k) ? qorStatusOk : qorStatusSingular;
             });
-        }
+        });
+        const qorStatus got = call.run(library);
+        if (!isAnswer(got, statuses)) return "status " + std::to_string(got);
+        const bool needsScratch =
+            threads == 1 && !isClosed(source.rows) && !(inverts(function) && source.rows == 1);
+        if (!needsScratch && !call.scratch()->isUntouched(0)) return "the scratch was touched";
+        return call.difference();
     }
-
-    template <class T>
-    void fill(const Operand& source, const Trial& trial) {
-        Random random(seed);
-        const bool allSpecial = trial.position < 0 && integer(random, 0, 1) == 1;
-        const int position = trial.position < 0 ? integer(random, 0, source.objects - 1)
-                                                : std::min(trial.position, source.objects - 1);
-        for (int k = 0; k < source.objects; ++k) {
-            const bool isSpecial = allSpecial || k == position;
-            Matrix<T> matrix =
-                generated<T>(isSpecial ? trial.special : trial.others, trial.n, random);
-            // A singular object hides those behind it, so one is enough.
-            if (isSpecial && k != position && !isInvertible(matrix)) {
-                matrix = generated<T>(trial.others, trial.n, random);
-            }
-            setMatrix(source, k, matrix);
-        }
-    }
-
-    template <class T>
-    bool isInvertible(const Matrix<T>& matrix) {
-        return !inverts(function) || measures_oracle::inverse(matrix, function.array);
-    }
-
-    static inline std::uint64_t seed = 0;
 };
 
 // The inverse of a large matrix is slow, so there are few of them.
@@ -286,7 +85,7 @@ TEST_P(Measures, ofAllInputsInAllPlacements) {
         const int repetitions = n > 9 ? 1 : function.array ? 3 : 20;
         for (Input* input : inputs) {
             for (int repetition = 0; repetition < repetitions; ++repetition) {
-                test({.n = n,
+                test({.size = n,
                       .count = std::min(counts[random() % std::size(counts)], most),
                       .placement = placements[random() % placements.size()],
                       .special = input});
@@ -300,7 +99,7 @@ TEST_P(Measures, inversesOfLargeMatrices) {
     if (!inverts(function) || !function.array) return;
     for (const int n : {9, 12, 16}) {
         for (Input* input : {dense, roundingTies}) {
-            test({.n = n, .count = 33, .placement = packed, .special = input});
+            test({.size = n, .count = 33, .placement = packed, .special = input});
         }
     }
 }
@@ -339,22 +138,13 @@ TEST_P(Measures, inverseInPlace) {
         if (placement.gapsOnlyIn >= 0 || placement.sharing != Placement::apart) continue;
         for (const int n : {1, 3, 4, 5, 6}) {
             for (Input* input : {dense, rowTwice}) {
-                test({.n = n,
+                test({.size = n,
                       .count = 33,
                       .placement = placement,
                       .special = input,
                       .inPlaceOf = "Src"});
             }
         }
-    }
-}
-
-void moveBack(Operand& operand, int elements) {
-    const int bytes = elements * operand.elementSize;
-    if (operand.table) {
-        operand.shift -= bytes;
-    } else {
-        operand.base -= bytes;
     }
 }
 
@@ -387,7 +177,7 @@ TEST_P(Measures, resultsOverOtherSources) {
             SCOPED_TRACE("results " + std::to_string(ahead) + " elements ahead");
             for (const int n : {1, 3, 4, 5, 6}) {
                 if (n > 1 || inverts(function))
-                    test({.n = n, .count = 40, .placement = placement, .rearrange = overlap});
+                    test({.size = n, .count = 40, .placement = placement, .rearrange = overlap});
             }
         }
     }
@@ -401,7 +191,7 @@ TEST_P(Measures, inversesOverOtherInverses) {
             const auto overlap = [&](Call& call) {
                 call.operands().back().stride0 = elements * function.elementSize;
             };
-            test({.n = n, .count = 40, .placement = packed, .rearrange = overlap});
+            test({.size = n, .count = 40, .placement = packed, .rearrange = overlap});
         }
     }
 }
@@ -595,11 +385,11 @@ TEST_P(Measures, documentedCases) {
 INSTANTIATE_TEST_SUITE_P(, Measures, testing::ValuesIn(functionsOf("Det Invert")),
                          [](const auto& tested) { return tested.param.name; });
 
-std::int64_t exactDeterminant(const M& matrix) {
-    if (matrix.n == 1) return std::int64_t(matrix(0, 0));
+std::int64_t exactDeterminant(const Numbers& matrix) {
+    if (matrix.size.rows == 1) return std::int64_t(matrix(0, 0));
     std::int64_t sum = 0;
-    for (int i = 0; i < matrix.n; ++i) {
-        const M rest = made(matrix.n - 1, [&](int row, int column) {
+    for (int i = 0; i < matrix.size.rows; ++i) {
+        const Numbers rest = made(matrix.size.rows - 1, [&](int row, int column) {
             return matrix(row < i ? row : row + 1, column + 1);
         });
         sum += (i % 2 == 0 ? 1 : -1) * std::int64_t(matrix(i, 0)) * exactDeterminant(rest);
@@ -614,7 +404,7 @@ TEST(DeterminantAccuracy, ofIntegers) {
         for (int n = 1; n <= 8; ++n) {
             Random random(static_cast<std::uint64_t>(n));
             for (int trial = 0; trial < 50; ++trial) {
-                const M matrix = integers(n, 3, random);
+                const Numbers matrix = integers(n, 3, random);
                 Call call(function, sizesOf(n, 1), packed, 1);
                 withType(function, [&]<class T>(T) {
                     setMatrix<T>(call.operand("Src"), 0,

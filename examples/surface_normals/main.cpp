@@ -7,17 +7,17 @@
 #include "render.h"
 #include "text_reader.h"
 
+#include "common/image.h"
+#include "common/program.h"
 #include "qorcore.h"
 
-#include <CLI/CLI.hpp>
 #include <omp.h>
 
 #include <chrono>
 #include <cstdio>
-#include <exception>
 #include <limits>
-#include <new>
 #include <string>
+#include <utility>
 
 namespace {
 
@@ -28,8 +28,6 @@ struct Options {
     std::string size = "1200x1000";
     std::size_t neighbours = 16;
     int threads = qorGetThreadCount();
-    int width = 0;
-    int height = 0;
 };
 
 void add_options(CLI::App& app, Options& options) {
@@ -39,9 +37,7 @@ void add_options(CLI::App& app, Options& options) {
                    "size of a neighbourhood, the point itself included")
         ->check(CLI::Range(3, 1000))
         ->capture_default_str();
-    app.add_option("--threads", options.threads, "threads of the search and of the solver")
-        ->check(CLI::Range(1, 256))
-        ->capture_default_str();
+    add_threads(app, options.threads, "threads of the search and of the solver");
     app.add_option("-o,--image", options.image, "picture to write (PNG)")->capture_default_str();
     app.add_option("--normals", options.normals, "points with normals to write (PLY)")
         ->capture_default_str();
@@ -49,19 +45,23 @@ void add_options(CLI::App& app, Options& options) {
         ->capture_default_str();
 }
 
-void parse_size(Options& options) {
+/// Width and height.
+std::pair<int, int> parse_size(const std::string& text) {
+    int width = 0;
+    int height = 0;
     int used = 0;
-    const bool parsed = std::sscanf(options.size.c_str(), "%5dx%5d%n", &options.width,
-                                    &options.height, &used) == 2 &&
-                        options.size.size() == static_cast<std::size_t>(used);
+    const bool parsed = std::sscanf(text.c_str(), "%5dx%5d%n", &width, &height, &used) == 2 &&
+                        text.size() == static_cast<std::size_t>(used);
     const auto fits = [](int length) { return length >= 16 && length <= 4096; };
-    if (!parsed || !fits(options.width) || !fits(options.height)) {
-        throw CLI::ValidationError("--size", "'" + options.size +
-                                                 "' is not WIDTHxHEIGHT with 16 to 4096 each");
+    if (!parsed || !fits(width) || !fits(height)) {
+        throw CLI::ValidationError("--size",
+                                   "'" + text + "' is not WIDTHxHEIGHT with 16 to 4096 each");
     }
+    return {width, height};
 }
 
 void run(const Options& options) {
+    const auto [width, height] = parse_size(options.size);
     const std::vector<Vec3> points = read_points(options.input);
     if (points.size() < options.neighbours) {
         throw InputError(options.input + ": " + std::to_string(points.size()) +
@@ -84,7 +84,7 @@ void run(const Options& options) {
     const std::size_t components = orient(points, near, surface.normals);
 
     write_ply(options.normals, points, surface);
-    write_png(options.image, render(points, surface, near.spacing, options.width, options.height));
+    write_png(options.image, render(points, surface, near.spacing, width, height));
 
     const auto count = static_cast<double>(points.size());
     std::printf("points         %zu from %s, %zu component%s\n", points.size(),
@@ -103,30 +103,11 @@ void run(const Options& options) {
     std::printf("written        %s, %s\n", options.image.c_str(), options.normals.c_str());
 }
 
-int fail(const char* fault) {
-    std::fprintf(stderr, "surface_normals: %s\n", fault);
-    return 1;
-}
-
 } // namespace
 
 int main(int argc, char** argv) {
-    try {
-        Options options;
-        CLI::App app("Estimates the normals and the surface variation of a 3D scan, and draws it.",
-                     "surface_normals");
-        add_options(app, options);
-        try {
-            app.parse(argc, argv);
-            parse_size(options);
-        } catch (const CLI::CallForHelp& help) {
-            return app.exit(help);
-        }
-        run(options);
-        return 0;
-    } catch (const std::bad_alloc&) {
-        return fail("not enough memory");
-    } catch (const std::exception& error) {
-        return fail(error.what());
-    }
+    return run_program<Options>(
+        "surface_normals",
+        "Estimates the normals and the surface variation of a 3D scan, and draws it.", argc, argv,
+        add_options, run);
 }

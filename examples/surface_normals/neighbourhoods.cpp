@@ -1,6 +1,6 @@
 #include "neighbourhoods.h"
 
-#include "progress_bar.h"
+#include "common/progress_bar.h"
 
 #include <nanoflann.hpp>
 

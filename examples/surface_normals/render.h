@@ -3,14 +3,9 @@
 
 #include "normals.h"
 
-#include <cstdint>
-#include <vector>
+#include "common/image.h"
 
-struct Image {
-    int width;
-    int height;
-    std::vector<std::uint8_t> rgb;
-};
+#include <vector>
 
 /// Draws the surface as it stands on a floor, y up, seen from the front (positive z) and lit from
 /// above, coloured by surface variation from sand (flat) to violet (sharp).

@@ -6,11 +6,17 @@
 #define QORM_H
 
 #include "qorm/add.h"
+#include "qorm/choleskybacksubst.h"
+#include "qorm/choleskydecomp.h"
 #include "qorm/det.h"
 #include "qorm/eigenvaluessym.h"
 #include "qorm/eigenvaluesvectorssym.h"
 #include "qorm/invert.h"
+#include "qorm/lubacksubst.h"
+#include "qorm/ludecomp.h"
 #include "qorm/mul.h"
+#include "qorm/qrbacksubst.h"
+#include "qorm/qrdecomp.h"
 #include "qorm/sub.h"
 #include "qorm/types.h"
 #include "qorm/version.h"

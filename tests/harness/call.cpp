@@ -169,16 +169,16 @@ void Operand::accept() const {
 Call::Call(const Function& function, const Sizes& sizes, const Placement& placement,
            std::uint64_t seed, std::string_view inPlaceOf)
     : function_(function), sizes_(sizes), placementName_(placement.name), seed_(seed) {
-    const auto sizeOf = [&](const std::string& name) { return name == "1" ? 1 : sizes.at(name); };
     for (const Parameter& parameter : function.parameters) {
         if (parameter.kind == Parameter::size) continue;
         Operand operand{};
         operand.parameter = parameter;
         operand.elementSize = function.elementSize;
         operand.objects = parameter.array ? sizes.at("count") : 1;
-        operand.rows = sizeOf(parameter.rows);
-        operand.columns = sizeOf(parameter.columns);
+        operand.rows = extentOf(parameter.rows, sizes);
+        operand.columns = extentOf(parameter.columns, sizes);
         operand.layout = parameter.isPlain() ? Layout::S : function.layoutOf(parameter);
+        if (parameter.kind == Parameter::indices) operand.elementSize = sizeof(std::int32_t);
         if (parameter.kind == Parameter::numberedScratch) { // in bytes
             operand.columns = operand.columns * operand.elementSize + 4;
             operand.elementSize = 1;
@@ -188,14 +188,16 @@ Call::Call(const Function& function, const Sizes& sizes, const Placement& placem
     place(placement);
     for (Operand& operand : operands_) {
         if (operand.parameter.kind != Parameter::result || inPlaceOf.empty()) continue;
-        const Parameter parameter = operand.parameter;
+        const Operand own = operand;
         operand = this->operand(inPlaceOf);
-        operand.parameter = parameter;
+        operand.parameter = own.parameter;
+        operand.rows = own.rows;
+        operand.columns = own.columns;
     }
 }
 
-// Operands lie in blocks of their own, or interleaved in one: an array of structures. The destination
-// may lie in the block of a source.
+// Operands lie in blocks of their own, or interleaved in one: an array of structures. The
+// destination may lie in the block of a source.
 void Call::place(const Placement& placement) {
     Random random(seed_);
     std::vector<Operand*> matrices;
@@ -289,8 +291,9 @@ std::string Call::difference() const {
             const char* live = operand.address(n, i, j);
             char* image = operand.memory->imageOf(live);
             const int size = operand.elementSize;
-            const bool bothNan = size == 4 ? isNan<float>(live) && isNan<float>(image)
-                                           : isNan<double>(live) && isNan<double>(image);
+            const bool bothNan = operand.parameter.kind != Parameter::indices &&
+                                 (size == 4 ? isNan<float>(live) && isNan<float>(image)
+                                            : isNan<double>(live) && isNan<double>(image));
             if (bothNan) {
                 std::copy(live, live + size, image);
             } else if (text.str().empty() && !std::equal(live, live + size, image)) {

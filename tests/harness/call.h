@@ -36,8 +36,9 @@ struct Placement {
 
 class Operand {
 public:
-    // Element (i, j) of object n, as the shape reads it. `expected` and `expect` work on the image
-    // of what memory has to hold after the call, `set` on both.
+    // Element (i, j) of object n, as the shape reads it; (0, j) of a vector or of indices, which
+    // are of type std::int32_t. `expected` and `expect` work on the image of what memory has to
+    // hold after the call, `set` on both.
     template <class T>
     T get(int n, int i, int j) const {
         return load<T>(address(n, i, j));
@@ -103,7 +104,8 @@ private:
 
 class Call {
 public:
-    // Memory is filled with noise. The destination takes the place of the source `inPlaceOf`.
+    // Memory is filled with noise. The destination takes the place of the source `inPlaceOf`, or of
+    // the first elements of a longer vector.
     Call(const Function& function, const Sizes& sizes, const Placement& placement,
          std::uint64_t seed, std::string_view inPlaceOf = {});
 

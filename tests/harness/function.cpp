@@ -19,43 +19,71 @@ struct Family {
 
 const std::vector<Family>& families() {
     using enum Parameter::Kind;
+    static const std::string one = "1";
+    static const std::string n = "widthHeight";
+    static const std::string w = "width";
+    static const std::string h = "height";
     static const std::vector<Family> table = {
         {"Add Sub",
-         {{source, "Src1", "height", "width"},
-          {source, "Src2", "height", "width"},
-          {result, "Dst", "height", "width"},
-          {size, "width", "", ""},
-          {size, "height", "", ""}}},
+         {{source, "Src1", h, w},
+          {source, "Src2", h, w},
+          {result, "Dst", h, w},
+          {size, w},
+          {size, h}}},
         {"EigenValuesSym",
-         {{source, "Src", "widthHeight", "widthHeight"},
-          {scratch, "Buffer", "widthHeight", "widthHeight"},
-          {results, "DstValues", "1", "widthHeight"},
-          {size, "widthHeight", "", ""}}},
+         {{source, "Src", n, n},
+          {scratch, "Buffer", n, n},
+          {results, "DstValues", one, n},
+          {size, n}}},
         {"EigenValuesVectorsSym",
-         {{source, "Src", "widthHeight", "widthHeight"},
-          {scratch, "Buffer", "widthHeight", "widthHeight"},
-          {result, "DstVectors", "widthHeight", "widthHeight"},
-          {results, "DstValues", "1", "widthHeight"},
-          {size, "widthHeight", "", ""}}},
+         {{source, "Src", n, n},
+          {scratch, "Buffer", n, n},
+          {result, "DstVectors", n, n},
+          {results, "DstValues", one, n},
+          {size, n}}},
         {"Mul",
          {{source, "Src1", "src1Height", "src1Width"},
-          {size, "src1Width", "", ""},
-          {size, "src1Height", "", ""},
+          {size, "src1Width"},
+          {size, "src1Height"},
           {source, "Src2", "src2Height", "src2Width"},
-          {size, "src2Width", "", ""},
-          {size, "src2Height", "", ""},
+          {size, "src2Width"},
+          {size, "src2Height"},
           {result, "Dst", "src1Height", "src2Width"}},
          true},
         {"Det",
-         {{source, "Src", "widthHeight", "widthHeight"},
-          {size, "widthHeight", "", ""},
-          {numberedScratch, "Buffer", "widthHeight", "widthHeight"},
-          {results, "Dst", "1", "1"}}},
+         {{source, "Src", n, n},
+          {size, n},
+          {numberedScratch, "Buffer", n, n},
+          {results, "Dst", one, one}}},
         {"Invert",
-         {{source, "Src", "widthHeight", "widthHeight"},
-          {numberedScratch, "Buffer", "widthHeight", "widthHeight"},
-          {result, "Dst", "widthHeight", "widthHeight"},
-          {size, "widthHeight", "", ""}}},
+         {{source, "Src", n, n},
+          {numberedScratch, "Buffer", n, n},
+          {result, "Dst", n, n},
+          {size, n}}},
+        {"LUDecomp",
+         {{source, "Src", n, n}, {indices, "DstIndex", one, n}, {result, "Dst", n, n}, {size, n}}},
+        {"LUBackSubst",
+         {{source, "Src1", n, n},
+          {indices, "SrcIndex", one, n},
+          {source, "Src2", one, n},
+          {result, "Dst", one, n},
+          {size, n}}},
+        {"CholeskyDecomp", {{source, "Src", n, n}, {result, "Dst", n, n}, {size, n}}},
+        {"CholeskyBackSubst",
+         {{source, "Src1", n, n}, {source, "Src2", one, n}, {result, "Dst", one, n}, {size, n}}},
+        {"QRDecomp",
+         {{source, "Src", h, w},
+          {scratch, "Buffer", one, h},
+          {result, "Dst", h, w},
+          {size, w},
+          {size, h}}},
+        {"QRBackSubst",
+         {{source, "Src1", h, w},
+          {scratch, "Buffer", one, h},
+          {source, "Src2", one, h},
+          {result, "Dst", one, w},
+          {size, w},
+          {size, h}}},
     };
     return table;
 }
@@ -71,9 +99,10 @@ std::vector<std::string> lettersOf(const std::string& shape) {
     return letters;
 }
 
-// Sources take the letters of the shape in their order; a destination is an array if any of them is.
-// Shared sizes are those of the result, so a transposed source is stored with them swapped. In
-// products it is the result whose rows or columns are named after the other size of its source.
+// Sources take the letters of the shape in their order; a destination is an array if any of them
+// is, indices are one if their matrix, the first source, is. Shared sizes are those of the result,
+// so a transposed source is stored with them swapped. In products it is the result whose rows or
+// columns are named after the other size of its source.
 std::vector<Parameter> parametersOf(const Function& function) {
     const auto family =
         std::find_if(families().begin(), families().end(), [&](const Family& candidate) {
@@ -98,6 +127,8 @@ std::vector<Parameter> parametersOf(const Function& function) {
                 parameters.back().columns = parameter.rows;
         } else if (parameter.kind == Parameter::result || parameter.kind == Parameter::results) {
             parameter.array = function.array;
+        } else if (parameter.kind == Parameter::indices) {
+            parameter.array = parameters.front().array;
         }
     }
     return parameters;
@@ -124,10 +155,9 @@ std::vector<Argument> argumentsOf(const Function& function) {
         add(Argument::pointer, (layout == Layout::S ? "p" : "pp") + parameter.name);
         if (layout != Layout::S) add(Argument::shift, prefix + "Shift");
         if (layout != Layout::L && parameter.array) add(Argument::stride0, prefix + "Stride0");
-        if (layout != Layout::P) {
-            add(Argument::stride1, prefix + "Stride1");
-            add(Argument::stride2, prefix + "Stride2");
-        }
+        if (layout == Layout::P) continue;
+        if (!parameter.isVector()) add(Argument::stride1, prefix + "Stride1");
+        add(Argument::stride2, prefix + "Stride2");
     }
     if (function.array) arguments.push_back({Argument::count, "count", 0});
     return arguments;
@@ -137,6 +167,12 @@ std::vector<Argument> argumentsOf(const Function& function) {
 
 Layout Function::layoutOf(const Parameter& parameter) const {
     return layout == Layout::L && !parameter.array ? Layout::S : layout;
+}
+
+bool Function::hasSize(std::string_view size) const {
+    return std::any_of(arguments.begin(), arguments.end(), [&](const Argument& argument) {
+        return argument.meaning == Argument::size && argument.name == size;
+    });
 }
 
 bool Function::isOneOf(std::string_view operations, std::string_view shapes) const {
@@ -158,6 +194,10 @@ Function functionOf(const std::string& name) {
     function.parameters = parametersOf(function);
     function.arguments = argumentsOf(function);
     return function;
+}
+
+int extentOf(const std::string& name, const Sizes& sizes) {
+    return name == "1" ? 1 : sizes.at(name);
 }
 
 Sizes productSizes(const Function& function, int rows, int inner, int columns, int count) {

@@ -14,21 +14,23 @@ namespace harness {
 enum class Layout { S, P, L };
 
 // One parameter in the sense of the interface's description: an operand stands for several
-// arguments. Rows and columns are the names of the sizes that give them, or a number.
+// arguments. Rows and columns are the names of the sizes that give them, or 1. A vector is a row.
 struct Parameter {
-    enum Kind { source, result, results, scratch, numberedScratch, size };
+    enum Kind { source, result, results, indices, scratch, numberedScratch, size };
 
-    // `results` are a plain array, a run of `columns` elements per object; numbered scratch has a
+    // `results` and `indices` are plain arrays, a run of `columns` elements per object; indices are
+    // 32-bit integers, the rows of a matrix in the order of its pivots. Numbered scratch has a
     // 32-bit integer for each row behind its elements.
     Kind kind;
     std::string name;
-    std::string rows;
-    std::string columns;
+    std::string rows = {};
+    std::string columns = {};
     bool array = false;
     bool transposed = false;
 
     bool isScratch() const { return kind == scratch || kind == numberedScratch; }
-    bool isPlain() const { return kind == results || isScratch(); }
+    bool isPlain() const { return kind == results || kind == indices || isScratch(); }
+    bool isVector() const { return rows == "1"; }
 };
 
 struct Argument {
@@ -37,8 +39,6 @@ struct Argument {
     Meaning meaning;
     std::string name;
     std::size_t parameter;
-
-    bool isStride() const { return meaning >= stride0 && meaning <= stride2; }
 };
 
 struct Function {
@@ -53,11 +53,15 @@ struct Function {
 
     // An operand's own layout: a single one in list layout is passed as in the standard layout.
     Layout layoutOf(const Parameter& parameter) const;
+    bool hasSize(std::string_view size) const;
     bool isOneOf(std::string_view operations, std::string_view shapes) const;
 };
 
 // By name: "width", "height", "widthHeight", "src1Width", "count".
 using Sizes = std::map<std::string, int>;
+
+// Rows or columns of a parameter.
+int extentOf(const std::string& name, const Sizes& sizes);
 
 // Sizes of a product's operands, as its shape reads them: rows x inner by inner x columns.
 Sizes productSizes(const Function& function, int rows, int inner, int columns, int count);

@@ -1,4 +1,5 @@
-// Memory of the tests: between inaccessible pages, and filled with bytes that a test can find again.
+// Memory of the tests: between inaccessible pages, and filled with bytes that a test can find
+// again.
 #pragma once
 
 #include <cstdint>
@@ -23,12 +24,12 @@ private:
     std::uint64_t state_;
 };
 
-// Bytes at one edge of a block of accessible pages, and their image: what they are expected to hold
-// after a call.
+// Bytes at one edge of a block of accessible pages, and their image: what they are expected to
+// hold after a call.
 class Region {
 public:
-    // A region of `bytes` bytes, at the front edge of the block or at its back. Around it, where the
-    // block goes on, lie some bytes more that are compared too.
+    // A region of `bytes` bytes, at the front edge of the block or at its back. Around it, where
+    // the block goes on, lie some bytes more that are compared too.
     static std::shared_ptr<Region> take(std::ptrdiff_t bytes, bool atFront, std::uint64_t seed);
 
     ~Region();

@@ -6,7 +6,6 @@
 #include "qorm/types.h"
 
 #include <cmath>
-#include <limits>
 #include <type_traits>
 
 namespace qorm::eigen {
@@ -34,7 +33,7 @@ Axis<T> axisOf(T cs, T tb) {
         const T sine = in64(ratio * ratio + 1, inverseRoot);
         return {sine, ratio * sine};
     }
-    if (std::fabs(tb) <= std::numeric_limits<T>::epsilon()) return {0, 1};
+    if (std::fabs(tb) <= epsilon<T>()) return {0, 1};
     const T ratio = -cs / tb;
     const T cosine = in64(ratio * ratio + 1, inverseRoot);
     return {ratio * cosine, cosine};
@@ -43,7 +42,7 @@ Axis<T> axisOf(T cs, T tb) {
 // The values are not sorted: a negative trace gives the smaller first.
 template <class T, class Work, class Vectors>
 qorStatus solveSize2(const Work& work, Run<T> values, const Vectors& vectors) {
-    constexpr T eps = std::numeric_limits<T>::epsilon();
+    const T eps = epsilon<T>();
     const T a = work(0, 0);
     const T b = work(0, 1);
     const T d = work(1, 1);

@@ -14,7 +14,6 @@
 #include "frame/lanes.h"
 
 #include <cstddef>
-#include <limits>
 
 namespace qorm::eigen {
 
@@ -324,7 +323,7 @@ private:
     const V half = V(T(0.5));
     const V one = V(T(1));
     const V two = V(T(2));
-    const V eps = V(std::numeric_limits<T>::epsilon());
+    const V eps = epsilon<V>();
     const Mask<V> all = zero == zero;
     const Mask<V> none = !all;
 

@@ -15,3 +15,10 @@
 #define QORM_FUNCTION_ma_P QORM_FUNCTION_m_P
 #define QORM_FUNCTION_ma_L(name, form, run, ...) \
     QORM_CORE(own##name, run, LC, __VA_ARGS__) QORM_CORE(own##name##S2, run, L, __VA_ARGS__)
+
+// A destination of vectors makes no difference.
+#define QORM_FUNCTION_v_S QORM_FUNCTION_m_S
+#define QORM_FUNCTION_v_P QORM_FUNCTION_m_P
+#define QORM_FUNCTION_va_S QORM_FUNCTION_ma_S
+#define QORM_FUNCTION_va_P QORM_FUNCTION_ma_P
+#define QORM_FUNCTION_va_L QORM_FUNCTION_ma_L

@@ -27,3 +27,10 @@
     extern "C" QORM_API qorStatus ownOMP_##name(ARGUMENTS(PARAM, L, __VA_ARGS__)) { \
         return qorm::fanOut<own##name, own##name##S2>(ARGUMENTS(GROUP, L, __VA_ARGS__)); \
     }
+
+// A destination of vectors makes no difference.
+#define QORM_FUNCTION_v_S QORM_FUNCTION_m_S
+#define QORM_FUNCTION_v_P QORM_FUNCTION_m_P
+#define QORM_FUNCTION_va_S QORM_FUNCTION_ma_S
+#define QORM_FUNCTION_va_P QORM_FUNCTION_ma_P
+#define QORM_FUNCTION_va_L QORM_FUNCTION_ma_L

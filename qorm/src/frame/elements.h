@@ -56,6 +56,13 @@ struct StridedMatrix {
     }
 };
 
+// The bytes from the begin of such a matrix to its end.
+template <class T>
+std::ptrdiff_t spanOfMatrix(std::ptrdiff_t stride1, std::ptrdiff_t stride2, std::ptrdiff_t rows,
+                            std::ptrdiff_t columns) {
+    return (rows - 1) * stride1 + (columns - 1) * stride2 + std::ptrdiff_t{sizeof(T)};
+}
+
 // One matrix by a table of element addresses, row by row, each to be shifted by `offset` bytes.
 template <class T>
 struct TabledMatrix {
@@ -77,6 +84,16 @@ struct Transposed {
 };
 template <class Matrix>
 Transposed(Matrix) -> Transposed<Matrix>;
+
+// A vector: a matrix of one row.
+template <class Matrix>
+struct OnlyRow {
+    Matrix matrix;
+
+    decltype(auto) operator()(std::ptrdiff_t i) const { return matrix(0, i); }
+};
+template <class Matrix>
+OnlyRow(Matrix) -> OnlyRow<Matrix>;
 
 // A plain run of elements.
 template <class T>

@@ -30,6 +30,7 @@ struct Form<std::uint32_t(Sizes...)> {
     std::int32_t contiguousThreshold;
     std::int32_t generalThreshold;
     bool alwaysGeneral = false;             // never takes its contiguous core
+    bool fansOut = true;                    // else the driver is never called
     bool (*sizesMatch)(Sizes...) = nullptr; // for Check::match
 };
 
@@ -105,7 +106,9 @@ qorStatus enterArray(const Form& form, const Groups&... groups) {
     const std::uint32_t measure = std::apply(form.measure, sizesOf(groups...));
     const bool contiguous = (groups.isContiguous() && ...);
     const std::int32_t threshold = contiguous ? form.contiguousThreshold : form.generalThreshold;
-    if (static_cast<std::int32_t>(measure) >= threshold) return call(driver, groups...);
+    if (form.fansOut && static_cast<std::int32_t>(measure) >= threshold) {
+        return call(driver, groups...);
+    }
     return callCore<core, generalCore>(groups...);
 }
 

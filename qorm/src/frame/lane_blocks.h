@@ -3,6 +3,7 @@
 #pragma once
 
 #include "frame/operands.h"
+#include "frame/runs.h"
 #include "frame/static_size.h"
 #include "frame/transposition.h"
 #include "frame/vectors.h"
@@ -28,6 +29,27 @@ struct PackRun {
     V& operator()(std::ptrdiff_t i) const { return base[i]; }
 };
 
+// The part of a matrix that is read or written.
+enum class Part { whole, lowerTriangle };
+
+template <Part part>
+constexpr std::ptrdiff_t columnsOfRow(std::ptrdiff_t row, std::ptrdiff_t columns) {
+    return part == Part::whole ? columns : row + 1;
+}
+
+// Which elements of a run belong to the part, in matrices whose rows, or that themselves, are adjacent.
+template <Part part, int rows, int columns>
+struct Belonging {
+    static constexpr bool at(int k) {
+        return part == Part::whole || k % columns <= k / columns % rows;
+    }
+    static constexpr unsigned maskOf(int begin, int end) {
+        unsigned mask = 0;
+        for (int k = begin; k < end; ++k) mask |= at(k) ? 1U << (k - begin) : 0;
+        return mask;
+    }
+};
+
 // Loads the runs of a register's lanes, of `length` elements each: lane l of at(k) becomes element k
 // of runOf(l). A chunk that would reach behind the end of its run begins earlier instead, if it can.
 template <Scalar T, int length, class RunOf, class At>
@@ -44,8 +66,8 @@ template <Scalar T, int length, class RunOf, class At>
     });
 }
 
-// The way back. Each run is stored whole before the next one.
-template <Scalar T, int length, class RunOf, class At>
+// The way back, for the elements that belong. Each run is stored whole before the next one.
+template <Scalar T, int length, class Belongs, class RunOf, class At>
 [[gnu::always_inline]] inline void storeRuns(const RunOf& runOf, int live, const At& at) {
     constexpr int lanes = laneCount<Pack<T>>;
     constexpr int chunks = (length + lanes - 1) / lanes;
@@ -60,31 +82,68 @@ template <Scalar T, int length, class RunOf, class At>
         if (lane >= live) return;
         T* const run = runOf(lane);
         forEachConstant<chunks>([&](auto chunk) {
-            storeVector<T, lanes, std::min<int>(lanes, length - chunk * lanes)>(
-                registers[chunk][lane], run + chunk * lanes);
+            constexpr int begin = chunk * lanes;
+            constexpr unsigned mask = Belongs::maskOf(begin, std::min(begin + lanes, length));
+            storeLanesOf<T, lanes, mask>(registers[chunk][lane], run + begin);
         });
     });
+}
+
+// Both for runs whose length is known at run time only.
+template <Scalar T, class RunOf, class At>
+[[gnu::always_inline]] inline void loadRuns(const RunOf& runOf, int length, const At& at) {
+    constexpr int lanes = laneCount<Pack<T>>;
+    for (int from = 0; from < length; from += lanes) {
+        const int live = std::min(lanes, length - from);
+        Register<T> chunk[lanes];
+        forEachConstant<lanes>([&](auto lane) {
+            const T* const begin = runOf(lane) + from;
+            chunk[lane] = (live == lanes ? loadRun(begin) : loadRun(begin, live)).lanes[0];
+        });
+        transposeRegisters(chunk);
+        for (int i = 0; i < live; ++i) at(from + i) = chunk[i];
+    }
+}
+
+template <Scalar T, class RunOf, class At>
+[[gnu::always_inline]] inline void storeRuns(const RunOf& runOf, int length, int liveLanes,
+                                             const At& at) {
+    constexpr int lanes = laneCount<Pack<T>>;
+    for (int from = 0; from < length; from += lanes) {
+        const int live = std::min(lanes, length - from);
+        Pack<T> chunk[lanes];
+        for (int i = 0; i < lanes; ++i) chunk[i].lanes[0] = at(from + std::min(i, live - 1));
+        transposeRegisters(reinterpret_cast<Register<T>(&)[lanes]>(chunk));
+        for (int lane = 0; lane < std::min(lanes, liveLanes); ++lane) {
+            T* const begin = runOf(lane) + from;
+            if (live == lanes)
+                storeRun(begin, chunk[lane]);
+            else
+                storeRun(begin, chunk[lane], live);
+        }
+    }
 }
 
 // work(r, at) for each register of a block of packs: at(k) is that of element k.
 template <Scalar T, int registers, class Work>
 [[gnu::always_inline]] inline void forEachRegister(Pack<T, registers>* block, const Work& work) {
-    forEachConstant<registers>(
-        [&](auto r) { work(r, [block, r](int k) -> Register<T>& { return block[k].lanes[r]; }); });
+    forEachConstant<registers>([&](auto r) {
+        work(r, [block, r](std::ptrdiff_t k) -> Register<T>& { return block[k].lanes[r]; });
+    });
 }
 
-// The same for objects that lie one behind the other. 3x3 matrices have a shorter way.
+// The same for objects that lie one behind the other.
 template <Scalar T, int length, int registers>
 [[gnu::always_inline]] inline void loadPacked(const T* from, Pack<T, registers>* elements) {
     constexpr int lanes = laneCount<Pack<T>>;
     forEachRegister(
         elements, [&](auto r, const auto& at) __attribute__((always_inline)) {
             const T* const begin = from + r * lanes * length;
-            if constexpr (length == 9) {
+            if constexpr (hasPackedTransposition<length>) {
                 Register<T> packed[length];
                 forEachConstant<length>(
                     [&](auto k) { packed[k] = loadVector<T, lanes, lanes>(begin + k * lanes); });
-                OddTransposition<length, lanes>::gather(packed);
+                PackedTransposition<length, lanes>::gather(packed);
                 forEachConstant<length>([&](auto k) { at(k) = packed[k]; });
             } else {
                 loadRuns<T, length>([begin](int lane) { return begin + lane * length; }, at);
@@ -92,21 +151,23 @@ template <Scalar T, int length, int registers>
         });
 }
 
-template <Scalar T, int length, int registers>
+template <Scalar T, int length, class Belongs, int registers>
 [[gnu::always_inline]] inline void storePacked(T* to, Pack<T, registers>* elements) {
     constexpr int lanes = laneCount<Pack<T>>;
     forEachRegister(
         elements, [&](auto r, const auto& at) __attribute__((always_inline)) {
             T* const begin = to + r * lanes * length;
-            if constexpr (length == 9) {
+            if constexpr (hasPackedTransposition<length>) {
                 Register<T> packed[length];
                 forEachConstant<length>([&](auto k) { packed[k] = at(k); });
-                OddTransposition<length, lanes>::scatter(packed);
-                forEachConstant<length>(
-                    [&](auto k) { storeVector<T, lanes, lanes>(packed[k], begin + k * lanes); });
+                PackedTransposition<length, lanes>::scatter(packed);
+                forEachConstant<length>([&](auto k) {
+                    constexpr unsigned mask = Belongs::maskOf(k * lanes, (k + 1) * lanes);
+                    storeLanesOf<T, lanes, mask>(packed[k], begin + k * lanes);
+                });
             } else {
-                storeRuns<T, length>([begin](int lane) { return begin + lane * length; }, lanes,
-                                     at);
+                storeRuns<T, length, Belongs>([begin](int lane) { return begin + lane * length; },
+                                              lanes, at);
             }
         });
 }
@@ -128,96 +189,248 @@ template <int lanes, class Operand>
     return addresses;
 }
 
-template <class V, class Operand, class N, class M>
+// Whether the objects of all live lanes lie apart, so that the order in which they are written does
+// not show.
+template <class T, std::size_t lanes>
+[[gnu::noinline]] bool lieApart(const std::array<T*, lanes>& objects, int live,
+                                std::ptrdiff_t bytes) {
+    for (std::size_t k = 1; k < static_cast<std::size_t>(live); ++k) {
+        for (std::size_t before = 0; before < k; ++before) {
+            const auto [lower, upper] = std::minmax(objects[before], objects[k]);
+            if (stepped(lower, bytes) > upper) return false;
+        }
+    }
+    return true;
+}
+
+// Rows of contiguous elements, in registers. What lies between the elements of a lower triangle is
+// read with them where rows are adjacent: never on a page that holds none of them.
+template <Part part, class V, class Operand, class Rows, class Columns, class M>
+[[gnu::always_inline]] inline void loadRows(const Operand& operand, std::ptrdiff_t first, int live,
+                                            Rows rows, Columns columns, PackMatrix<V, M> block) {
+    using T = LaneType<V>;
+    constexpr int lanes = laneCount<V>;
+    const bool adjacentRows = operand.hasAdjacentRows(columns);
+    if constexpr (isFixed<Rows> && isFixed<Columns>) {
+        constexpr int length = rows * columns;
+        if (adjacentRows && live == lanes && operand.hasAdjacentObjects(length)) {
+            const auto begin = operand.object(first, columns)(0, 0).address();
+            return loadPacked<T, length>(begin, block.base);
+        }
+    }
+    const std::array<const T*, lanes> objects = addressesOf<lanes>(operand, first, live);
+    const std::ptrdiff_t stride1 = operand.stride1;
+    forEachRegister(
+        block.base, [&](int r, const auto& at) __attribute__((always_inline)) {
+            const auto rowAt = [&](std::ptrdiff_t offset) {
+                return [&objects, r, offset](int lane) {
+                    return stepped(objects[static_cast<std::size_t>(r * laneCount<Pack<T>> + lane)],
+                                   offset);
+                };
+            };
+            const auto inRow = [&](std::ptrdiff_t i) {
+                return [&at, i, columns ](std::ptrdiff_t j) -> auto& {
+                    return at(i * columns + j);
+                };
+            };
+            if constexpr (isFixed<Rows> && isFixed<Columns>) {
+                if (adjacentRows) {
+                    loadRuns<T, rows * columns>(rowAt(0), at);
+                } else {
+                    forEachConstant<rows>([&](auto i) {
+                        loadRuns<T, columnsOfRow<part>(i, columns)>(rowAt(i * stride1), inRow(i));
+                    });
+                }
+            } else if (adjacentRows) {
+                loadRuns<T>(rowAt(0), static_cast<int>(rows * columns), at);
+            } else {
+                for (std::ptrdiff_t i = 0; i < rows; ++i) {
+                    loadRuns<T>(rowAt(i * stride1),
+                                static_cast<int>(columnsOfRow<part>(i, columns)), inRow(i));
+                }
+            }
+        });
+}
+
+// The way back. False where nothing was stored, since it is no gain.
+template <Part part, class V, class Operand, class Rows, class Columns, class M>
+[[gnu::always_inline]] inline bool storeRows(const Operand& operand, std::ptrdiff_t first, int live,
+                                             Rows rows, Columns columns, PackMatrix<V, M> block) {
+    using T = LaneType<V>;
+    constexpr int lanes = laneCount<V>;
+    constexpr bool isFixedSize = isFixed<Rows> && isFixed<Columns>;
+    const bool adjacentRows = operand.hasAdjacentRows(columns);
+    if (isFixedSize && !adjacentRows) return false;
+    if constexpr (isFixedSize) {
+        constexpr int length = rows * columns;
+        if (live == lanes && operand.hasAdjacentObjects(length)) {
+            storePacked<T, length, Belonging<part, rows, columns>>(
+                operand.object(first, columns)(0, 0).address(), block.base);
+            return true;
+        }
+    }
+    const std::array<T*, lanes> objects = addressesOf<lanes>(operand, first, live);
+    const std::ptrdiff_t stride1 = operand.stride1;
+    if (!isFixedSize &&
+        !lieApart(objects, live, spanOfMatrix<T>(stride1, sizeof(T), rows, columns))) {
+        return false;
+    }
+    forEachRegister(
+        block.base, [&](int r, const auto& at) __attribute__((always_inline)) {
+            const int begin = r * laneCount<Pack<T>>;
+            const auto rowAt = [&](std::ptrdiff_t offset) {
+                return [&objects, begin, offset](int lane) {
+                    return stepped(objects[static_cast<std::size_t>(begin + lane)], offset);
+                };
+            };
+            if constexpr (isFixedSize) {
+                storeRuns<T, rows * columns, Belonging<part, rows, columns>>(rowAt(0), live - begin,
+                                                                             at);
+            } else if (adjacentRows && part == Part::whole) {
+                storeRuns<T>(rowAt(0), static_cast<int>(rows * columns), live - begin, at);
+            } else {
+                for (std::ptrdiff_t i = 0; i < rows; ++i) {
+                    storeRuns<T>(
+                        rowAt(i * stride1), static_cast<int>(columnsOfRow<part>(i, columns)),
+                        live - begin, [&](std::ptrdiff_t j) -> auto& {
+                            return at(i * columns + j);
+                        });
+                }
+            }
+        });
+    return true;
+}
+
+// Objects first .. first + live - 1 into the lanes of a block.
+template <Part part = Part::whole, class V, class Operand, class Rows, class Columns, class M>
 [[gnu::always_inline]] inline void loadLanes(const Operand& operand, std::ptrdiff_t first, int live,
-                                             N rows, N columns, PackMatrix<V, M> block) {
+                                             Rows rows, Columns columns, PackMatrix<V, M> block) {
     constexpr int lanes = laneCount<V>;
     if (live == lanes && operand.hasObjectsSideBySide()) {
         const auto object = operand.object(first, columns);
         for (std::ptrdiff_t i = 0; i < rows; ++i) {
-            for (std::ptrdiff_t j = 0; j < columns; ++j) {
+            for (std::ptrdiff_t j = 0; j < columnsOfRow<part>(i, columns); ++j) {
                 std::memcpy(&block(i, j), object(i, j).address(), sizeof(V));
             }
         }
         return;
     }
-    if constexpr (Operand::hasContiguousRows && isFixed<N> && lanes > 1) {
-        using T = LaneType<V>;
-        constexpr int n = N::value;
-        const bool adjacentRows = operand.hasAdjacentRows(n);
-        if (adjacentRows && live == lanes && operand.hasAdjacentObjects(n * n)) {
-            return loadPacked<T, n * n>(operand.object(first, n)(0, 0).address(), block.base);
-        }
-        const std::array<const T*, lanes> objects = addressesOf<lanes>(operand, first, live);
-        const std::ptrdiff_t stride1 = operand.stride1;
-        forEachRegister(
-            block.base, [&](int r, const auto& at) __attribute__((always_inline)) {
-                const auto rowOf = [&](std::ptrdiff_t offset) {
-                    return [&objects, r, offset](int lane) {
-                        return stepped(
-                            objects[static_cast<std::size_t>(r * laneCount<Pack<T>> + lane)],
-                            offset);
-                    };
-                };
-                if (adjacentRows) {
-                    loadRuns<T, n * n>(rowOf(0), at);
-                } else {
-                    forEachConstant<n>([&](auto i) {
-                        loadRuns<T, n>(
-                            rowOf(i * stride1), [&](int j) -> auto& { return at(i * n + j); });
-                    });
-                }
-            });
-        return;
+    if constexpr (Operand::hasContiguousRows && lanes > 1) {
+        return loadRows<part>(operand, first, live, rows, columns, block);
     }
     for (int lane = 0; lane < lanes; ++lane) {
         const auto object = operand.object(first + std::min(lane, live - 1), columns);
         for (std::ptrdiff_t i = 0; i < rows; ++i) {
-            for (std::ptrdiff_t j = 0; j < columns; ++j) {
+            for (std::ptrdiff_t j = 0; j < columnsOfRow<part>(i, columns); ++j) {
                 reinterpret_cast<LaneType<V>*>(&block(i, j))[lane] = object(i, j);
             }
         }
     }
 }
 
-template <class V, class Operand, class N, class M>
+template <Part part = Part::whole, class V, class Operand, class Rows, class Columns, class M>
 [[gnu::always_inline]] inline void storeLanes(const Operand& operand, std::ptrdiff_t first,
-                                              int live, N rows, N columns, PackMatrix<V, M> block) {
+                                              int live, Rows rows, Columns columns,
+                                              PackMatrix<V, M> block) {
     constexpr int lanes = laneCount<V>;
     if (live == lanes && operand.hasObjectsSideBySide()) {
         const auto object = operand.object(first, columns);
         for (std::ptrdiff_t i = 0; i < rows; ++i) {
-            for (std::ptrdiff_t j = 0; j < columns; ++j) {
+            for (std::ptrdiff_t j = 0; j < columnsOfRow<part>(i, columns); ++j) {
                 std::memcpy(object(i, j).address(), &block(i, j), sizeof(V));
             }
         }
         return;
     }
-    if constexpr (Operand::hasContiguousRows && isFixed<N> && lanes > 1) {
-        using T = LaneType<V>;
-        constexpr int n = N::value;
-        if (operand.hasAdjacentRows(n)) {
-            if (live == lanes && operand.hasAdjacentObjects(n * n)) {
-                return storePacked<T, n * n>(operand.object(first, n)(0, 0).address(), block.base);
-            }
-            const std::array<T*, lanes> objects = addressesOf<lanes>(operand, first, live);
-            forEachRegister(
-                block.base, [&](int r, const auto& at) __attribute__((always_inline)) {
-                    const int begin = r * laneCount<Pack<T>>;
-                    const auto runOf = [&](int lane) {
-                        return objects[static_cast<std::size_t>(begin + lane)];
-                    };
-                    storeRuns<T, n * n>(runOf, live - begin, at);
-                });
-            return;
-        }
+    if constexpr (Operand::hasContiguousRows && lanes > 1) {
+        if (storeRows<part>(operand, first, live, rows, columns, block)) return;
     }
     for (int lane = 0; lane < live; ++lane) {
         const auto object = operand.object(first + lane, columns);
         for (std::ptrdiff_t i = 0; i < rows; ++i) {
-            for (std::ptrdiff_t j = 0; j < columns; ++j) {
+            for (std::ptrdiff_t j = 0; j < columnsOfRow<part>(i, columns); ++j) {
                 object(i, j) = reinterpret_cast<const LaneType<V>*>(&block(i, j))[lane];
             }
+        }
+    }
+}
+
+// The same with the rows of each lane in an order of their own: row i of the block is row
+// rowOf(lane, i) of the object.
+template <class V, class Operand, class RowOf>
+void loadLanesInOrder(const Operand& operand, std::ptrdiff_t first, int live, std::ptrdiff_t n,
+                      const RowOf& rowOf, PackMatrix<V> block) {
+    using T = LaneType<V>;
+    constexpr int lanes = laneCount<V>;
+    if constexpr (Operand::hasContiguousRows && lanes > 1) {
+        const std::array<const T*, lanes> objects = addressesOf<lanes>(operand, first, live);
+        forEachRegister(block.base, [&](int r, const auto& at) {
+            for (std::ptrdiff_t i = 0; i < n; ++i) {
+                const auto rowIn = [&](int registerLane) {
+                    const int lane = r * laneCount<Pack<T>> + registerLane;
+                    return stepped(objects[static_cast<std::size_t>(lane)],
+                                   rowOf(lane, i) * operand.stride1);
+                };
+                loadRuns<T>(
+                    rowIn,
+                    static_cast<int>(n), [&](std::ptrdiff_t j) -> auto& { return at(i * n + j); });
+            }
+        });
+        return;
+    }
+    for (int lane = 0; lane < lanes; ++lane) {
+        const auto object = operand.object(first + std::min(lane, live - 1), n);
+        for (std::ptrdiff_t i = 0; i < n; ++i) {
+            const std::ptrdiff_t row = rowOf(lane, i);
+            for (std::ptrdiff_t j = 0; j < n; ++j) {
+                reinterpret_cast<T*>(&block(i, j))[lane] = object(row, j);
+            }
+        }
+    }
+}
+
+template <class V, class Operand, class RowOf>
+void storeLanesInOrder(const Operand& operand, std::ptrdiff_t first, int live, std::ptrdiff_t n,
+                       const RowOf& rowOf, PackMatrix<V> block) {
+    using T = LaneType<V>;
+    constexpr int lanes = laneCount<V>;
+    if constexpr (Operand::hasContiguousRows && lanes > 1) {
+        const std::array<T*, lanes> objects = addressesOf<lanes>(operand, first, live);
+        const std::ptrdiff_t stride1 = operand.stride1;
+        if (lieApart(objects, live, spanOfMatrix<T>(stride1, sizeof(T), n, n))) {
+            forEachRegister(block.base, [&](int r, const auto& at) {
+                const int begin = r * laneCount<Pack<T>>;
+                for (std::ptrdiff_t i = 0; i < n; ++i) {
+                    const auto rowIn = [&](int registerLane) {
+                        const int lane = begin + registerLane;
+                        return stepped(objects[static_cast<std::size_t>(lane)],
+                                       rowOf(lane, i) * stride1);
+                    };
+                    storeRuns<T>(
+                        rowIn, static_cast<int>(n),
+                        live - begin, [&](std::ptrdiff_t j) -> auto& { return at(i * n + j); });
+                }
+            });
+            return;
+        }
+    }
+    for (int lane = 0; lane < live; ++lane) {
+        const auto object = operand.object(first + lane, n);
+        for (std::ptrdiff_t i = 0; i < n; ++i) {
+            const std::ptrdiff_t row = rowOf(lane, i);
+            for (std::ptrdiff_t j = 0; j < n; ++j) object(row, j) = laneOf(block(i, j), lane);
+        }
+    }
+}
+
+// Plain runs, whose elements may be integers.
+template <class V, class T, class N>
+void loadLanes(const Plain<T>& runs, std::ptrdiff_t first, int live, N elements, PackRun<V> block) {
+    for (int lane = 0; lane < laneCount<V>; ++lane) {
+        const auto run = runs.object(first + std::min(lane, live - 1));
+        for (std::ptrdiff_t i = 0; i < elements; ++i) {
+            reinterpret_cast<LaneType<V>*>(&block(i))[lane] =
+                static_cast<LaneType<V>>(std::remove_const_t<T>(run(i)));
         }
     }
 }
@@ -225,16 +438,29 @@ template <class V, class Operand, class N, class M>
 template <class V, class T, class N>
 void storeLanes(const Plain<T>& runs, std::ptrdiff_t first, int live, N elements,
                 PackRun<V> block) {
-    if (isFixed<N> && elements == 1 && live == laneCount<V>) {
-        std::memcpy(runs.object(first).base, block.base, sizeof(V));
-        return;
+    if constexpr (std::is_same_v<T, LaneType<V>> && isFixed<N> && elements == 1) {
+        if (live == laneCount<V>) {
+            std::memcpy(runs.object(first).base, block.base, sizeof(V));
+            return;
+        }
     }
     for (int lane = 0; lane < live; ++lane) {
         const auto run = runs.object(first + lane);
         for (std::ptrdiff_t i = 0; i < elements; ++i) {
-            run(i) = reinterpret_cast<const T*>(&block(i))[lane];
+            run(i) = static_cast<T>(reinterpret_cast<const LaneType<V>*>(&block(i))[lane]);
         }
     }
+}
+
+// Objects one after the other. That is the exception, so the code is to be small.
+template <class T, class Work>
+[[gnu::cold, gnu::noinline, gnu::flatten]] qorStatus inTurn(std::ptrdiff_t first, int live,
+                                                            const Work& work) {
+    for (int k = 0; k < live; ++k) {
+        const qorStatus status = work.template operator()<T>(first + k, 1);
+        if (status != qorStatusOk) return status;
+    }
+    return qorStatusOk;
 }
 
 // All objects in blocks of a pack's lanes, by work.operator()<V>(first, live), which returns a status
@@ -249,10 +475,7 @@ qorStatus inLanes(const Guard& guard, std::ptrdiff_t count, const Work& work) {
             work.template operator()<V>(first, live) == qorStatusOk) {
             continue;
         }
-        for (int k = 0; k < live; ++k) {
-            const qorStatus status = work.template operator()<LaneType<V>>(first + k, 1);
-            if (status != qorStatusOk) return status;
-        }
+        if (const qorStatus status = inTurn<LaneType<V>>(first, live, work)) return status;
     }
     return qorStatusOk;
 }

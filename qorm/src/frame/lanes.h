@@ -13,6 +13,7 @@
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
+#include <limits>
 #include <type_traits>
 #include <utility>
 
@@ -154,6 +155,24 @@ struct RegisterOf {
         return x;
 #endif
     }
+
+    // About 1/sqrt(x), to 12 bits or better. The estimates of 128 and 256 bits agree with the scalar
+    // one, that of 512 bits does not.
+    static Register<T> reciprocalSqrtEstimate(Register<T> x) {
+        static_assert(singles);
+#if defined(QORM_AVX512)
+        const __m256 low = __builtin_shufflevector(x, x, 0, 1, 2, 3, 4, 5, 6, 7);
+        const __m256 high = __builtin_shufflevector(x, x, 8, 9, 10, 11, 12, 13, 14, 15);
+        return __builtin_shufflevector(_mm256_rsqrt_ps(low), _mm256_rsqrt_ps(high), 0, 1, 2, 3, 4,
+                                       5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15);
+#elif defined(__AVX__)
+        return _mm256_rsqrt_ps(x);
+#elif defined(__SSE2__)
+        return _mm_rsqrt_ps(x);
+#else
+        return 1.0F / sqrt(x);
+#endif
+    }
 };
 
 template <Scalar T, int registers>
@@ -241,7 +260,18 @@ template <class V>
 inline constexpr int laneCount = sizeof(V) / sizeof(LaneType<V>);
 
 template <class V>
+LaneType<V> laneOf(const V& pack, int lane) {
+    return reinterpret_cast<const LaneType<V>*>(&pack)[lane];
+}
+
+template <class V>
 using Mask = decltype(V() > V());
+
+// 2^-23 or 2^-52: the unit of all thresholds, which are absolute.
+template <class V>
+V epsilon() {
+    return V(std::numeric_limits<LaneType<V>>::epsilon());
+}
 
 template <Scalar T>
 T select(bool where, T chosen, T otherwise) {
@@ -300,6 +330,20 @@ T sqrt(T x) {
 template <Scalar T, int registers>
 Pack<T, registers> sqrt(Pack<T, registers> x) {
     for (auto& lane : x.lanes) lane = RegisterOf<T>::sqrt(lane);
+    return x;
+}
+
+inline float reciprocalSqrtEstimate(float x) {
+#if defined(__SSE2__)
+    return _mm_cvtss_f32(_mm_rsqrt_ss(_mm_set_ss(x)));
+#else
+    return 1.0F / std::sqrt(x);
+#endif
+}
+
+template <int registers>
+Pack<float, registers> reciprocalSqrtEstimate(Pack<float, registers> x) {
+    for (auto& lane : x.lanes) lane = RegisterOf<float>::reciprocalSqrtEstimate(lane);
     return x;
 }
 

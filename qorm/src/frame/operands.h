@@ -16,13 +16,16 @@
 namespace qorm {
 
 // An operand's letters in a shape.
-enum class Kind { m, t, ma, ta };
+enum class Kind { m, t, v, ma, ta, va };
 
 constexpr bool isArray(Kind kind) {
-    return kind == Kind::ma || kind == Kind::ta;
+    return kind == Kind::ma || kind == Kind::ta || kind == Kind::va;
 }
 constexpr bool isTransposed(Kind kind) {
     return kind == Kind::t || kind == Kind::ta;
+}
+constexpr bool isVector(Kind kind) {
+    return kind == Kind::v || kind == Kind::va;
 }
 
 // A stored matrix as a shape's letter reads it.
@@ -59,6 +62,14 @@ constexpr bool isBadShift(std::int32_t shift) {
     return !isMultipleOfElement<T>(shift) || shift < 0;
 }
 
+template <bool isPresent, class Argument>
+auto tupleIf(Argument argument) {
+    if constexpr (isPresent)
+        return std::tuple(argument);
+    else
+        return std::tuple();
+}
+
 // What holds for a group unless it says otherwise. Rows are adjacent if they follow one another
 // without a gap, objects of so many elements likewise; objects lie side by side if the elements of
 // each position do.
@@ -77,12 +88,14 @@ struct Group {
     std::tuple<> sizes() const { return {}; }
 };
 
-// A matrix or an array of matrices by strides. A single matrix has no stride0.
-template <class T, bool array, bool contiguousRows>
+// A matrix or an array of matrices by strides; a single one has no stride0. A vector is a matrix of
+// one row and has no stride1.
+template <class T, Kind kind, bool contiguousRows>
 struct Strided : Group {
     using Element = T;
     static constexpr Layout layout = Layout::S;
     static constexpr bool hasContiguousRows = contiguousRows;
+    static constexpr bool holdsArray = isArray(kind);
 
     T* base;
     std::int32_t stride0;
@@ -94,30 +107,24 @@ struct Strided : Group {
 
     bool isNull() const { return base == nullptr; }
     bool hasBadStride() const {
-        return (array && isBadStride<T>(stride0)) || isBadStride<T>(stride1) ||
-               isBadStride<T>(stride2);
+        return (isArray(kind) && isBadStride<T>(stride0)) ||
+               (!isVector(kind) && isBadStride<T>(stride1)) || isBadStride<T>(stride2);
     }
     bool isContiguous() const { return stride2 == static_cast<std::int32_t>(sizeof(T)); }
 
     bool hasAdjacentRows(std::ptrdiff_t columns) const {
-        return contiguousRows && stride1 == columns * std::ptrdiff_t{sizeof(T)};
+        return contiguousRows && (isVector(kind) || stride1 == columns * std::ptrdiff_t{sizeof(T)});
     }
     bool hasAdjacentObjects(std::ptrdiff_t elements) const {
-        return array && stride0 == elements * std::ptrdiff_t{sizeof(T)};
+        return isArray(kind) && stride0 == elements * std::ptrdiff_t{sizeof(T)};
     }
 
-    Strided<T, array, true> contiguous() const { return {base, stride0, stride1, stride2}; }
+    Strided<T, kind, true> contiguous() const { return {base, stride0, stride1, stride2}; }
     Strided share(const Share& share) const { return {at(share.first), stride0, stride1, stride2}; }
 
     auto arguments() const {
-        if constexpr (array && contiguousRows)
-            return std::tuple(base, stride0, stride1);
-        else if constexpr (array)
-            return std::tuple(base, stride0, stride1, stride2);
-        else if constexpr (contiguousRows)
-            return std::tuple(base, stride1);
-        else
-            return std::tuple(base, stride1, stride2);
+        return std::tuple_cat(std::tuple(base), tupleIf<isArray(kind)>(stride0),
+                              tupleIf<!isVector(kind)>(stride1), tupleIf<!contiguousRows>(stride2));
     }
 
     StridedMatrix<T, contiguousRows> object(std::ptrdiff_t n, std::ptrdiff_t /*columns*/) const {
@@ -125,15 +132,16 @@ struct Strided : Group {
     }
 
 private:
-    T* at(std::ptrdiff_t n) const { return array ? stepped(base, n * stride0) : base; }
+    T* at(std::ptrdiff_t n) const { return isArray(kind) ? stepped(base, n * stride0) : base; }
 };
 
-// A matrix or an array of matrices by a table of element addresses.
+// A matrix, a vector or an array of them by a table of element addresses.
 template <class T, bool array>
 struct Pointers : Group {
     using Element = T;
     static constexpr Layout layout = Layout::P;
     static constexpr bool hasContiguousRows = false;
+    static constexpr bool holdsArray = array;
 
     T* const* table;
     std::int32_t shift;
@@ -172,12 +180,13 @@ struct Pointers : Group {
     }
 };
 
-// An array of matrices by a table of object addresses.
-template <class T, bool contiguousRows>
+// An array of matrices or of vectors by a table of object addresses.
+template <class T, Kind kind, bool contiguousRows>
 struct List : Group {
     using Element = T;
     static constexpr Layout layout = Layout::L;
     static constexpr bool hasContiguousRows = contiguousRows;
+    static constexpr bool holdsArray = isArray(kind);
 
     T* const* table;
     std::int32_t shift;
@@ -188,22 +197,22 @@ struct List : Group {
         : table(pp), shift(byteShift), stride1(s1), stride2(s2) {}
 
     bool isNull() const { return table == nullptr; }
-    bool hasBadStride() const { return isBadStride<T>(stride1) || isBadStride<T>(stride2); }
+    bool hasBadStride() const {
+        return (!isVector(kind) && isBadStride<T>(stride1)) || isBadStride<T>(stride2);
+    }
     bool hasBadShift() const { return isBadShift<T>(shift); }
     bool isContiguous() const { return stride2 == static_cast<std::int32_t>(sizeof(T)); }
 
     bool hasAdjacentRows(std::ptrdiff_t columns) const {
-        return contiguousRows && stride1 == columns * std::ptrdiff_t{sizeof(T)};
+        return contiguousRows && (isVector(kind) || stride1 == columns * std::ptrdiff_t{sizeof(T)});
     }
 
-    List<T, true> contiguous() const { return {table, shift, stride1, stride2}; }
+    List<T, kind, true> contiguous() const { return {table, shift, stride1, stride2}; }
     List share(const Share& share) const { return {table + share.first, shift, stride1, stride2}; }
 
     auto arguments() const {
-        if constexpr (contiguousRows)
-            return std::tuple(table, shift, stride1);
-        else
-            return std::tuple(table, shift, stride1, stride2);
+        return std::tuple_cat(std::tuple(table, shift), tupleIf<!isVector(kind)>(stride1),
+                              tupleIf<!contiguousRows>(stride2));
     }
 
     StridedMatrix<T, contiguousRows> object(std::ptrdiff_t n, std::ptrdiff_t /*columns*/) const {
@@ -211,7 +220,7 @@ struct List : Group {
     }
 };
 
-// A plain array of results, `elements` per object.
+// A plain array, `elements` per object; with none of its own, all objects have the same run.
 template <class T>
 struct Plain : Group {
     T* base;

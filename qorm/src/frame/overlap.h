@@ -51,14 +51,8 @@ struct ListSpans {
     Bytes operator()(std::ptrdiff_t n) const { return bytesOf(stepped(table[n], shift), bytes); }
 };
 
-template <class T>
-std::ptrdiff_t spanOfMatrix(std::ptrdiff_t stride1, std::ptrdiff_t stride2, std::ptrdiff_t rows,
-                            std::ptrdiff_t columns) {
-    return (rows - 1) * stride1 + (columns - 1) * stride2 + std::ptrdiff_t{sizeof(T)};
-}
-
-template <class T, bool array, bool contiguousRows>
-RegularSpans spansOf(const Strided<T, array, contiguousRows>& operand, std::ptrdiff_t rows,
+template <class T, Kind kind, bool contiguousRows>
+RegularSpans spansOf(const Strided<T, kind, contiguousRows>& operand, std::ptrdiff_t rows,
                      std::ptrdiff_t columns) {
     const std::ptrdiff_t bytes = spanOfMatrix<T>(operand.stride1, operand.stride2, rows, columns);
     return {bytesOf(operand.base, bytes), operand.stride0};
@@ -74,8 +68,8 @@ RegularSpans spansOf(const Pointers<T, array>& operand, std::ptrdiff_t rows,
     return {object0, operand.stride0};
 }
 
-template <class T, bool contiguousRows>
-ListSpans<T> spansOf(const List<T, contiguousRows>& operand, std::ptrdiff_t rows,
+template <class T, Kind kind, bool contiguousRows>
+ListSpans<T> spansOf(const List<T, kind, contiguousRows>& operand, std::ptrdiff_t rows,
                      std::ptrdiff_t columns) {
     return {operand.table, operand.shift,
             spanOfMatrix<T>(operand.stride1, operand.stride2, rows, columns)};
@@ -253,19 +247,50 @@ bool shareOnlyPositions(const Src& src, const Dst& dst, std::ptrdiff_t rows, std
                                    rows, live);
 }
 
+// How the source and the destination of one object may share memory where a kernel reads all of the
+// object before it writes any.
+enum class Sharing {
+    any,    // the contract reads all of it first, too
+    places, // each element is read before its own place is written, and no other is read after that
+    none
+};
+
+// Whether two operands place element (i, j) of an object at the same distance from its begin.
+template <class T, class U, Kind kind, bool contiguousRows>
+bool haveSameSteps(const Strided<T, kind, contiguousRows>& a,
+                   const Strided<U, kind, contiguousRows>& b, std::ptrdiff_t /*elements*/) {
+    return a.stride1 == b.stride1 && a.stride2 == b.stride2;
+}
+template <class T, class U, Kind kind, bool contiguousRows>
+bool haveSameSteps(const List<T, kind, contiguousRows>& a, const List<U, kind, contiguousRows>& b,
+                   std::ptrdiff_t /*elements*/) {
+    return a.stride1 == b.stride1 && a.stride2 == b.stride2;
+}
+template <class T, class U, bool array>
+bool haveSameSteps(const Pointers<T, array>& a, const Pointers<U, array>& b,
+                   std::ptrdiff_t elements) {
+    return a.shift == b.shift && std::equal(a.table, a.table + elements, b.table);
+}
+template <class A, class B>
+bool haveSameSteps(const A&, const B&, std::ptrdiff_t) {
+    return false;
+}
+
 // Which runs of objects may be read all before the first of them is written.
 template <class Reads, class Writes>
 class ReadAhead {
 public:
-    ReadAhead(const Reads& read, const Writes& written, std::ptrdiff_t count)
-        : reads(read), writes(written) {
+    ReadAhead(const Reads& read, const Writes& written, std::ptrdiff_t count,
+              Sharing sharingOfObjects = Sharing::any)
+        : reads(read), writes(written), sharing(sharingOfObjects) {
         if constexpr (std::is_same_v<Reads, RegularSpans> && std::is_same_v<Writes, RegularSpans>) {
             always = areApart(reads, writes, count);
         }
     }
 
     bool allows(std::ptrdiff_t first, int live) const {
-        return always || (!never && mayReadAhead(reads, writes, first, live));
+        if (always || never) return always;
+        return mayReadAhead(reads, writes, first, live) && objectsMayShare(first, live);
     }
 
     void allowAlways() { always = true; }
@@ -273,24 +298,75 @@ public:
         always = false;
         never = true;
     }
+    void sharesPlaces(bool shared) { samePlaces = shared; }
 
 private:
+    bool objectsMayShare(std::ptrdiff_t first, int live) const {
+        if (sharing == Sharing::any) return true;
+        for (std::ptrdiff_t object = first; object < first + live; ++object) {
+            const Bytes read = reads(object);
+            const Bytes written = writes(object);
+            const bool isInPlace = samePlaces && read.begin == written.begin;
+            if (overlap(read, written) && !isInPlace) return false;
+        }
+        return true;
+    }
+
     Reads reads;
     Writes writes;
+    Sharing sharing;
     bool always = false;
     bool never = false;
+    bool samePlaces = false;
 };
 
-// The same for two square matrices of n rows, whose elements are written in any order.
+struct Extent {
+    std::ptrdiff_t rows;
+    std::ptrdiff_t columns;
+
+    bool operator==(const Extent&) const = default;
+};
+
+// The same for matrices or vectors of so many rows and columns, whose elements are written in any
+// order.
 template <class Src, class Dst>
-auto readAheadOf(const Src& src, const Dst& dst, std::ptrdiff_t n, std::ptrdiff_t count,
-                 int lanes) {
-    ReadAhead guard(spansOf(src, n, n), spansOf(dst, n, n), count);
-    if (!hasDistinctElements(dst, n, n, lanes))
+auto readAheadOf(Sharing sharing, const Src& src, Extent read, const Dst& dst, Extent written,
+                 std::ptrdiff_t count, int lanes) {
+    ReadAhead guard(spansOf(src, read.rows, read.columns),
+                    spansOf(dst, written.rows, written.columns), count, sharing);
+    if (!hasDistinctElements(dst, written.rows, written.columns, lanes)) {
         guard.allowNever();
-    else if (shareOnlyPositions(src, dst, n, n, lanes))
-        guard.allowAlways();
+    } else if (src.hasObjectsSideBySide() && dst.hasObjectsSideBySide()) {
+        const auto source = src.object(0, read.columns);
+        const auto destination = dst.object(0, written.columns);
+        const int objects = static_cast<int>(std::min<std::ptrdiff_t>(lanes, count));
+        const int sources = Src::holdsArray ? objects : 1;
+        const bool mayAlways =
+            sharing != Sharing::none && read == written
+                ? positionsAreIndependent(source, sources, destination, read.columns, read.rows,
+                                          objects)
+                : positionsAreApart(source, read.rows, read.columns, sources, destination,
+                                    written.rows, written.columns, objects);
+        if (mayAlways) guard.allowAlways();
+    } else if (sharing == Sharing::places && read == written) {
+        guard.sharesPlaces(haveSameSteps(src, dst, read.rows * read.columns));
+    }
     return guard;
 }
+
+// Guards of several sources.
+template <class... Guards>
+class AllOf {
+public:
+    explicit AllOf(const Guards&... guards) : guards_(guards...) {}
+
+    bool allows(std::ptrdiff_t first, int live) const {
+        return std::apply([&](const auto&... guard) { return (guard.allows(first, live) && ...); },
+                          guards_);
+    }
+
+private:
+    std::tuple<Guards...> guards_;
+};
 
 } // namespace qorm

@@ -30,21 +30,46 @@
     T *const *pp##Name, std::int32_t name##Shift, std::int32_t name##Stride1
 
 #define GROUP_m_S(T, Name, name) \
-    qorm::Strided<T, false, false>(p##Name, 0, name##Stride1, name##Stride2)
-#define GROUP_m_C(T, Name, name) qorm::Strided<T, false, true>(p##Name, 0, name##Stride1, sizeof(T))
+    qorm::Strided<T, qorm::Kind::m, false>(p##Name, 0, name##Stride1, name##Stride2)
+#define GROUP_m_C(T, Name, name) \
+    qorm::Strided<T, qorm::Kind::m, true>(p##Name, 0, name##Stride1, sizeof(T))
 #define GROUP_m_P(T, Name, name) qorm::Pointers<T, false>(pp##Name, name##Shift, 0)
 #define GROUP_m_L(T, Name, name) GROUP_m_S(T, Name, name)
 #define GROUP_m_LC(T, Name, name) GROUP_m_C(T, Name, name)
 
 #define GROUP_ma_S(T, Name, name) \
-    qorm::Strided<T, true, false>(p##Name, name##Stride0, name##Stride1, name##Stride2)
+    qorm::Strided<T, qorm::Kind::ma, false>(p##Name, name##Stride0, name##Stride1, name##Stride2)
 #define GROUP_ma_C(T, Name, name) \
-    qorm::Strided<T, true, true>(p##Name, name##Stride0, name##Stride1, sizeof(T))
+    qorm::Strided<T, qorm::Kind::ma, true>(p##Name, name##Stride0, name##Stride1, sizeof(T))
 #define GROUP_ma_P(T, Name, name) qorm::Pointers<T, true>(pp##Name, name##Shift, name##Stride0)
 #define GROUP_ma_L(T, Name, name) \
-    qorm::List<T, false>(pp##Name, name##Shift, name##Stride1, name##Stride2)
+    qorm::List<T, qorm::Kind::ma, false>(pp##Name, name##Shift, name##Stride1, name##Stride2)
 #define GROUP_ma_LC(T, Name, name) \
-    qorm::List<T, true>(pp##Name, name##Shift, name##Stride1, sizeof(T))
+    qorm::List<T, qorm::Kind::ma, true>(pp##Name, name##Shift, name##Stride1, sizeof(T))
+
+// Vectors are passed as matrices are, without a stride of rows.
+#define PARAM_v_S(T, Name, name) T *p##Name, std::int32_t name##Stride2
+#define PARAM_v_C(T, Name, name) T* p##Name
+#define PARAM_v_P PARAM_m_P
+#define PARAM_va_S(T, Name, name) T *p##Name, std::int32_t name##Stride0, std::int32_t name##Stride2
+#define PARAM_va_C(T, Name, name) T *p##Name, std::int32_t name##Stride0
+#define PARAM_va_P PARAM_ma_P
+#define PARAM_va_L(T, Name, name) \
+    T *const *pp##Name, std::int32_t name##Shift, std::int32_t name##Stride2
+#define PARAM_va_LC(T, Name, name) T *const *pp##Name, std::int32_t name##Shift
+#define GROUP_v_S(T, Name, name) \
+    qorm::Strided<T, qorm::Kind::v, false>(p##Name, 0, 0, name##Stride2)
+#define GROUP_v_C(T, Name, name) qorm::Strided<T, qorm::Kind::v, true>(p##Name, 0, 0, sizeof(T))
+#define GROUP_v_P GROUP_m_P
+#define GROUP_va_S(T, Name, name) \
+    qorm::Strided<T, qorm::Kind::va, false>(p##Name, name##Stride0, 0, name##Stride2)
+#define GROUP_va_C(T, Name, name) \
+    qorm::Strided<T, qorm::Kind::va, true>(p##Name, name##Stride0, 0, sizeof(T))
+#define GROUP_va_P GROUP_ma_P
+#define GROUP_va_L(T, Name, name) \
+    qorm::List<T, qorm::Kind::va, false>(pp##Name, name##Shift, 0, name##Stride2)
+#define GROUP_va_LC(T, Name, name) \
+    qorm::List<T, qorm::Kind::va, true>(pp##Name, name##Shift, 0, sizeof(T))
 
 // An operand read transposed is passed like one read as stored.
 #define PARAM_t_S PARAM_m_S
@@ -68,7 +93,7 @@
 #define GROUP_ta_L GROUP_ma_L
 #define GROUP_ta_LC GROUP_ma_LC
 
-// The sizes behind the operands; array forms, whose destination is `ma`, end with the count.
+// The sizes behind the operands; array forms, whose destination is `ma` or `va`, end with the count.
 #define PARAM_width_height_m std::int32_t width, std::int32_t height
 #define PARAM_width_height_ma PARAM_width_height_m, std::int32_t count
 #define PARAM_widthHeight_m std::int32_t widthHeight
@@ -77,6 +102,14 @@
 #define GROUP_width_height_ma GROUP_width_height_m, qorm::Count(count)
 #define GROUP_widthHeight_m qorm::Size(widthHeight)
 #define GROUP_widthHeight_ma GROUP_widthHeight_m, qorm::Count(count)
+#define PARAM_width_height_v PARAM_width_height_m
+#define PARAM_width_height_va PARAM_width_height_ma
+#define PARAM_widthHeight_v PARAM_widthHeight_m
+#define PARAM_widthHeight_va PARAM_widthHeight_ma
+#define GROUP_width_height_v GROUP_width_height_m
+#define GROUP_width_height_va GROUP_width_height_ma
+#define GROUP_widthHeight_v GROUP_widthHeight_m
+#define GROUP_widthHeight_va GROUP_widthHeight_ma
 
 // In products each operand has sizes of its own, those in which it is stored.
 #define PARAM_width_height_1 std::int32_t src1Width, std::int32_t src1Height
@@ -84,17 +117,26 @@
 #define GROUP_width_height_1 qorm::Size(src1Width), qorm::Size(src1Height)
 #define GROUP_width_height_2 qorm::Size(src2Width), qorm::Size(src2Height)
 
-// Scratch of widthHeight * widthHeight elements, which may go with a table of row numbers, and
-// plain arrays of widthHeight results or of one.
+// Scratch of widthHeight * widthHeight elements, which may go with a table of row numbers, or of a
+// column's elements, and plain arrays of widthHeight results or of one.
 #define PARAM_buffer(T) T* pBuffer
 #define GROUP_buffer(T) qorm::Scratch<T>(pBuffer, std::int64_t{widthHeight} * widthHeight)
 #define PARAM_rowsBuffer(T) T* pBuffer
 #define GROUP_rowsBuffer(T) \
     qorm::Scratch<T>(pBuffer, std::int64_t{widthHeight} * (std::int64_t{widthHeight} + 1))
+#define PARAM_columnBuffer(T) T* pBuffer
+#define GROUP_columnBuffer(T) qorm::Scratch<T>(pBuffer, height)
 #define PARAM_values(T) T* pDstValues
 #define GROUP_values(T) qorm::Plain<T>(pDstValues, widthHeight)
 #define PARAM_value(T) T* pDst
 #define GROUP_value(T) qorm::Plain<T>(pDst, 1)
+
+// The row numbers of pivots, widthHeight of each matrix; a single matrix has one run for all calls of
+// a thread.
+#define PARAM_pivots_m(T, Index) T* Index
+#define PARAM_pivots_ma(T, Index) T* Index
+#define GROUP_pivots_m(T, Index) qorm::Plain<T>(Index, 0)
+#define GROUP_pivots_ma(T, Index) qorm::Plain<T>(Index, widthHeight)
 
 // Behind a list's last group where array forms go on with their count.
 #define PARAM_count_m

@@ -41,12 +41,12 @@ auto withStaticSize(std::ptrdiff_t n, const Work& work) {
 
 // Calls work(width, height) with constants for the squares of 3 to 6.
 template <class Work>
-void withStaticSquare(std::ptrdiff_t width, std::ptrdiff_t height, const Work& work) {
-    withStaticSize(width == height ? width : 0, [&](auto n) {
+auto withStaticSquare(std::ptrdiff_t width, std::ptrdiff_t height, const Work& work) {
+    return withStaticSize(width == height ? width : 0, [&](auto n) {
         if constexpr (isFixed<decltype(n)>)
-            work(n, n);
+            return work(n, n);
         else
-            work(width, height);
+            return work(width, height);
     });
 }
 

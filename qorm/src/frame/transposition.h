@@ -100,10 +100,10 @@ template <class Vector, int lanes>
     });
 }
 
-// Objects of an odd number of elements, one behind the other in as many registers: lane l of register
-// p becomes element p of object l, or the other way round.
+// Objects one behind the other, in as many registers as each has elements: lane l of register p
+// becomes element p of object l (gather), or the other way round (scatter).
 //
-// Let W be the number of lanes. Lane c of register r holds element p = (Wr + c) mod elements of its
+// An odd number of elements. Let W be the number of lanes. Lane c of register r holds element p = (Wr + c) mod elements of its
 // object. For each lane that is a rotation of the registers by s(c) = c/W, taken modulo `elements`,
 // which is done bit by bit; what is left is a permutation of each register's lanes.
 template <int elements, int lanes>
@@ -180,5 +180,56 @@ struct OddTransposition {
         rotate<1, -1>(x);
     }
 };
+
+// A power of two. Each round of gathering parts the even from the odd lanes of neighbouring registers,
+// which moves the lowest bit of an element's place to the top.
+template <int elements, int lanes>
+struct HalvingTransposition {
+    static constexpr int half = elements / 2;
+
+    template <bool odd, class Vector>
+    [[gnu::always_inline]] static Vector parted(const Vector& x, const Vector& y) {
+        return [&]<int... lane>(std::integer_sequence<int, lane...>)
+            __attribute__((always_inline)) {
+            return __builtin_shufflevector(x, y, (2 * lane + (odd ? 1 : 0))...);
+        }
+        (std::make_integer_sequence<int, lanes>());
+    }
+
+    template <class Vector, int rounds = elements>
+    [[gnu::always_inline]] static void gather(Vector (&x)[elements]) {
+        if constexpr (rounds > 1) {
+            Vector next[elements];
+            forEachConstant<half>([&](auto r) {
+                next[r] = parted<false>(x[2 * r], x[2 * r + 1]);
+                next[r + half] = parted<true>(x[2 * r], x[2 * r + 1]);
+            });
+            forEachConstant<elements>([&](auto r) { x[r] = next[r]; });
+            gather<Vector, rounds / 2>(x);
+        }
+    }
+
+    template <class Vector, int rounds = elements>
+    [[gnu::always_inline]] static void scatter(Vector (&x)[elements]) {
+        if constexpr (rounds > 1) {
+            Vector next[elements];
+            forEachConstant<half>([&](auto r) {
+                next[2 * r] = interleaved<false, lanes>(x[r], x[r + half]);
+                next[2 * r + 1] = interleaved<true, lanes>(x[r], x[r + half]);
+            });
+            forEachConstant<elements>([&](auto r) { x[r] = next[r]; });
+            scatter<Vector, rounds / 2>(x);
+        }
+    }
+};
+
+// Lengths for which this pays.
+template <int elements>
+inline constexpr bool hasPackedTransposition = elements == 4 ||
+                                               (elements % 2 == 1 && elements < 16);
+
+template <int elements, int lanes>
+using PackedTransposition = std::conditional_t<elements % 2 == 1, OddTransposition<elements, lanes>,
+                                               HalvingTransposition<elements, lanes>>;
 
 } // namespace qorm

@@ -21,6 +21,10 @@ constexpr int lanesFor(int elements) {
     return static_cast<int>(std::bit_ceil(static_cast<unsigned>(elements)));
 }
 
+constexpr unsigned firstLanesOf(int live) {
+    return (1U << live) - 1;
+}
+
 // The first `live` lanes from memory, zeros in the others.
 template <Scalar T, int lanes, int live>
 [[gnu::always_inline]] inline Vector<T, lanes> loadVector(const T* from) {
@@ -30,7 +34,7 @@ template <Scalar T, int lanes, int live>
     } else {
 #if defined(QORM_AVX512)
         constexpr bool singles = sizeof(T) == 4;
-        constexpr unsigned mask = (1U << live) - 1;
+        constexpr unsigned mask = firstLanesOf(live);
         if constexpr (singles && lanes == 4)
             vector = _mm_maskz_loadu_ps(mask, from);
         else if constexpr (singles && lanes == 8)
@@ -48,15 +52,14 @@ template <Scalar T, int lanes, int live>
     return vector;
 }
 
-// The first `live` lanes to memory.
-template <Scalar T, int lanes, int live>
-[[gnu::always_inline]] inline void storeVector(const Vector<T, lanes>& vector, T* to) {
-    if constexpr (live == lanes) {
+// The lanes whose bit is set to memory; no other byte is touched.
+template <Scalar T, int lanes, unsigned mask>
+[[gnu::always_inline]] inline void storeLanesOf(const Vector<T, lanes>& vector, T* to) {
+    if constexpr (mask == firstLanesOf(lanes)) {
         std::memcpy(to, &vector, sizeof vector);
     } else {
 #if defined(QORM_AVX512)
         constexpr bool singles = sizeof(T) == 4;
-        constexpr unsigned mask = (1U << live) - 1;
         if constexpr (singles && lanes == 4)
             _mm_mask_storeu_ps(to, mask, vector);
         else if constexpr (singles && lanes == 8)
@@ -68,9 +71,17 @@ template <Scalar T, int lanes, int live>
         else
             _mm512_mask_storeu_pd(to, mask, vector);
 #else
-        for (int lane = 0; lane < live; ++lane) to[lane] = vector[lane];
+        for (int lane = 0; lane < lanes; ++lane) {
+            if ((mask >> lane & 1) != 0) to[lane] = vector[lane];
+        }
 #endif
     }
+}
+
+// The first `live` lanes to memory.
+template <Scalar T, int lanes, int live>
+[[gnu::always_inline]] inline void storeVector(const Vector<T, lanes>& vector, T* to) {
+    storeLanesOf<T, lanes, firstLanesOf(live)>(vector, to);
 }
 
 } // namespace qorm

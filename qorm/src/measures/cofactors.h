@@ -25,7 +25,7 @@ V minorWithoutColumn(std::ptrdiff_t j, const Matrix& m, std::ptrdiff_t done, Piv
     const V last =
         select(pivots.failed, lastWhereFailed, V(m(n - 2, lastIsRemoved ? n - 2 : n - 1)));
     const V product = select(pivots.failed, V(0), pivots.product);
-    return select(abs(last) <= threshold<V>(), V(0), product * (last * pivots.sign));
+    return select(abs(last) <= epsilon<V>(), V(0), product * (last * pivots.sign));
 }
 
 // The inverse of a. Nothing is written where a lane is singular, which is returned.
@@ -42,7 +42,7 @@ template <class V, class A, class Inverse, class Matrix>
     Pivots<V> pivots;
     for (std::ptrdiff_t k = 0; k < n - 1; ++k) eliminate(work, k, k, n, n, pivots);
     const V last = work(n - 1, n - 1);
-    const Mask<V> singular = pivots.failed | (abs(last) <= threshold<V>());
+    const Mask<V> singular = pivots.failed | (abs(last) <= epsilon<V>());
     if (any(singular)) return singular;
     const V reciprocal = V(1) / (pivots.product * (last * pivots.sign));
 

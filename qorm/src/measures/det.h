@@ -43,7 +43,7 @@ V determinantByElimination(const Matrix& work, std::ptrdiff_t n) {
     const V last = select(pivots.failed, pivots.lastWhereFailed, V(work(n - 1, n - 1)));
     const V sign = select(pivots.failed, V(0), pivots.sign);
     const V determinant = pivots.product * (last * sign);
-    Mask<V> isZero = abs(last) <= threshold<V>();
+    Mask<V> isZero = abs(last) <= epsilon<V>();
     if constexpr (!isArray(kind)) isZero = isZero | pivots.failed;
     return select(isZero, V(0), determinant);
 }

@@ -3,16 +3,9 @@
 
 #include "frame/lanes.h"
 
-#include <limits>
 #include <utility>
 
 namespace qorm::measures {
-
-// Pivots below it are taken for zero. Absolute.
-template <class V>
-V threshold() {
-    return V(std::numeric_limits<LaneType<V>>::epsilon());
-}
 
 // What the steps so far have found. A lane whose pivot fails its test takes no further part: its
 // numbers stay, and so do those elements that it may still be asked for.
@@ -58,7 +51,7 @@ template <class V, class Matrix>
 void eliminate(const Matrix& a, std::ptrdiff_t k, std::ptrdiff_t column, std::ptrdiff_t rows,
                std::ptrdiff_t columns, Pivots<V>& pivots) {
     using T = LaneType<V>;
-    const V eps = threshold<V>();
+    const V eps = epsilon<V>();
 
     // The first of equal candidates wins, and NaN never does: it replaces `largest`, and the next
     // candidate replaces it in turn.

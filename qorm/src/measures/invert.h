@@ -26,7 +26,7 @@ qorStatus reciprocals(const Src& src, const Dst& dst, std::ptrdiff_t count) {
     using T = typename Dst::Element;
     for (std::ptrdiff_t object = 0; object < count; ++object) {
         const T x = src.object(object, 1)(0, 0);
-        const T eps = threshold<T>();
+        const T eps = epsilon<T>();
         const bool isSingular = isArray(kind) ? eps >= std::fabs(x) : !(std::fabs(x) > eps);
         if (isSingular) return qorStatusSingular;
         dst.object(object, 1)(0, 0) = T(1) / x;
@@ -63,7 +63,7 @@ constexpr FormOfInvert<kind> formOfInvert(std::size_t elementSize, Layout layout
 template <Kind kind, class V>
 bool isAnySingular(const V& determinant) {
     const V size = abs(determinant);
-    return any(isArray(kind) ? threshold<V>() > size : !(threshold<V>() <= size));
+    return any(isArray(kind) ? epsilon<V>() > size : !(epsilon<V>() <= size));
 }
 
 // Objects first .. first + live - 1. Nothing is written if one of them is singular.
@@ -123,7 +123,8 @@ qorStatus inverses(const Src& src, const Scratch<T>& scratch, const Dst& dst, Si
     if (n > mostLaneSize) return invertInScratch(src, scratch, dst, n, count);
     return withSmallSize(n, [&](auto fixed) {
         if constexpr (isArray(kind)) {
-            const auto guard = readAheadOf(src, dst, n, count, laneCount<Pack<T>>);
+            const auto guard =
+                readAheadOf(Sharing::any, src, {n, n}, dst, {n, n}, count, laneCount<Pack<T>>);
             return inLanes<Pack<T>>(guard, count, [&]<class V>(std::ptrdiff_t first, int live) {
                 return invertBlock<kind, V>(src, dst, first, live, fixed);
             });

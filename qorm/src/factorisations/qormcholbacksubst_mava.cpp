@@ -1,0 +1,6 @@
+// Entry functions: solutions of arrays of systems from their Cholesky factors.
+#include "factorisations/cholesky_solve.h"
+#include "frame/entries.h"
+#include "qorm/choleskybacksubst.h"
+
+#include "factorisations/qormcholbacksubst_mava.def"

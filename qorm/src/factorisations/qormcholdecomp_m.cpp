@@ -1,0 +1,6 @@
+// Entry functions: Cholesky factorisation of a matrix.
+#include "factorisations/cholesky.h"
+#include "frame/entries.h"
+#include "qorm/choleskydecomp.h"
+
+#include "factorisations/qormcholdecomp_m.def"

@@ -1,0 +1,6 @@
+// Cores: Cholesky factorisation of a matrix.
+#include "factorisations/cholesky.h"
+#include "frame/cores.h"
+#include "qorm/choleskydecomp.h"
+
+#include "factorisations/qormcholdecomp_m.def"

@@ -1,0 +1,6 @@
+// Fan-out drivers: solutions of arrays of systems from their LU factors.
+#include "factorisations/lu_solve.h"
+#include "frame/drivers.h"
+#include "qorm/lubacksubst.h"
+
+#include "factorisations/qormlubacksubst_mava.def"

@@ -1,0 +1,6 @@
+// Cores: solutions of arrays of systems from their LU factors.
+#include "factorisations/lu_solve.h"
+#include "frame/cores.h"
+#include "qorm/lubacksubst.h"
+
+#include "factorisations/qormlubacksubst_mava.def"

@@ -1,0 +1,6 @@
+// Cores: solution of a system from its LU factors.
+#include "factorisations/lu_solve.h"
+#include "frame/cores.h"
+#include "qorm/lubacksubst.h"
+
+#include "factorisations/qormlubacksubst_mv.def"

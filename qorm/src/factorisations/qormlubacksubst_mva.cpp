@@ -1,0 +1,6 @@
+// Entry functions: solutions of systems with one matrix from its LU factors.
+#include "factorisations/lu_solve.h"
+#include "frame/entries.h"
+#include "qorm/lubacksubst.h"
+
+#include "factorisations/qormlubacksubst_mva.def"

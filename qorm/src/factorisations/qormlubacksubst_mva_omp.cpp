@@ -1,0 +1,6 @@
+// Fan-out drivers: solutions of systems with one matrix from its LU factors.
+#include "factorisations/lu_solve.h"
+#include "frame/drivers.h"
+#include "qorm/lubacksubst.h"
+
+#include "factorisations/qormlubacksubst_mva.def"

@@ -1,0 +1,6 @@
+// Cores: LU factorisations of arrays of matrices.
+#include "factorisations/lu.h"
+#include "frame/cores.h"
+#include "qorm/ludecomp.h"
+
+#include "factorisations/qormludecomp_ma.def"

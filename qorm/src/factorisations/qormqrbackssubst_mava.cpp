@@ -1,0 +1,6 @@
+// Entry functions: solutions of arrays of systems from their QR factors.
+#include "factorisations/qr_solve.h"
+#include "frame/entries.h"
+#include "qorm/qrbacksubst.h"
+
+#include "factorisations/qormqrbackssubst_mava.def"

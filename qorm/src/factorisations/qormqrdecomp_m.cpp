@@ -1,0 +1,6 @@
+// Entry functions: QR factorisation of a matrix.
+#include "factorisations/qr.h"
+#include "frame/entries.h"
+#include "qorm/qrdecomp.h"
+
+#include "factorisations/qormqrdecomp_m.def"

@@ -1,0 +1,6 @@
+// Fan-out drivers: QR factorisations of arrays of matrices.
+#include "factorisations/qr.h"
+#include "frame/drivers.h"
+#include "qorm/qrdecomp.h"
+
+#include "factorisations/qormqrdecomp_ma.def"
