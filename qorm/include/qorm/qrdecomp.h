@@ -17,9 +17,9 @@
  *  reduce. Their scales are not stored; the solver (qrbacksubst.h), which takes the destination as
  *  it is, forms them again.
  *
- *  Signs. R(k,k) has the sign opposite to what was there before the k-th reflection, and is
- *  negative where that was 0, so that nothing cancels. The last diagonal element of a square
- *  matrix is what the reflections leave.
+ *  Signs. R(k,k) has the sign opposite to what was there before the k-th reflection, so that
+ *  nothing cancels, and is positive where that was 0. The last diagonal element of a square matrix
+ *  is what the reflections leave.
  *
  *  Method. Householder, "Unitary triangularization of a nonsymmetric matrix", J. ACM 5, 1958;
  *  Golub and Van Loan, "Matrix Computations", sections 5.1 and 5.2. All arithmetic is in the
