@@ -15,8 +15,7 @@ using EigenStride =
     std::conditional_t<rowStep == columns, Eigen::Stride<0, 0>, Eigen::OuterStride<rowStep>>;
 
 template <class T, int rows, int rowStep, int columns = rows>
-using ConstMap =
-    Eigen::Map<const EigenMatrix<T, rows, columns>, 0, EigenStride<columns, rowStep>>;
+using ConstMap = Eigen::Map<const EigenMatrix<T, rows, columns>, 0, EigenStride<columns, rowStep>>;
 template <class T, int n, int rowStep>
 using Map = Eigen::Map<EigenMatrix<T, n>, 0, EigenStride<n, rowStep>>;
 

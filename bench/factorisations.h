@@ -1,6 +1,6 @@
-// The tables of a factorisation and its solver: systems a x = b beside a plain loop whose strides the
-// compiler knows, Eigen's fixed sizes, and LAPACK, which gets a call per matrix. The limit works on
-// systems that lie in lanes.
+// The tables of a factorisation and its solver: systems a x = b beside a plain loop whose strides
+// the compiler knows, Eigen's fixed sizes, and LAPACK, which gets a call per matrix. The limit
+// works on systems that lie in lanes.
 //
 // A family is a class with what is its own; see lu.cpp.
 #pragma once
@@ -39,13 +39,16 @@ struct Systems {
     // fill(a)
     template <class Fill>
     Systems(int height, int width, int systems, Placement where, Task task, const Fill& fill)
-        : rows(height), columns(width), count(systems),
-          matrixCount(task == Task::solveWithOne ? 1 : systems), placement(where) {
+        : rows(height),
+          columns(width),
+          count(systems),
+          matrixCount(task == Task::solveWithOne ? 1 : systems),
+          placement(where) {
         fill(a);
         b.fillRandomly();
     }
 
-    // The sum of squares of all solutions, which become zero, and no number if one of them is wrong.
+    // The sum of squares of all solutions, which become zero, or no number if one of them is wrong.
     double takeSolutions() const {
         for (int k = 0; k < count; ++k) {
             if (!isSolved(k)) return std::numeric_limits<double>::quiet_NaN();
@@ -73,8 +76,9 @@ private:
             }
         }
         const double rounding = 100.0 * rows * double{std::numeric_limits<T>::epsilon()};
-        return std::equal(sums.begin(), sums.begin() + columns, sizes.begin(),
-                          [=](double sum, double size) { return std::fabs(sum) <= rounding * size; });
+        return std::equal(
+            sums.begin(), sums.begin() + columns, sizes.begin(),
+            [=](double sum, double size) { return std::fabs(sum) <= rounding * size; });
     }
 };
 
@@ -138,8 +142,8 @@ private:
     }
 };
 
-// Straight-line code for 16x16 takes long to compile: it is part of the loop over objects only where
-// compilers make vectors of that.
+// Straight-line code for 16x16 takes long to compile: it is part of the loop over objects only
+// where compilers make vectors of that.
 template <int rows, Placement placement>
 constexpr bool isApart = rows > 8 && placement != Placement::packed;
 
@@ -276,7 +280,7 @@ private:
         std::vector<Extra>(static_cast<std::size_t>(systems.matrixCount * extras));
 };
 
-// For peers that take addresses, object by object. All that is called becomes part of the loops.
+// For peers that take addresses, object by object.
 template <class T, int rows, int columns, Placement placement>
 class ObjectByObject : public Method {
 protected:
@@ -286,26 +290,38 @@ protected:
 
     // work(k, a)
     template <class Work>
-    [[gnu::noinline, gnu::flatten]] void forMatrices(const Work& work) const {
+    void forMatrices(const Work& work) const {
         const Array a(systems.a);
         for (std::ptrdiff_t k = 0; k < systems.matrixCount; ++k) work(k, a.read(k));
     }
     // work(k, b, x)
     template <class Work>
-    [[gnu::noinline, gnu::flatten]] void forVectors(const Work& work) const {
+    void forVectors(const Work& work) const {
         const Objects<T, 1, placement, rows> b(systems.b);
         const Objects<T, 1, placement, columns> x(systems.x);
         for (std::ptrdiff_t k = 0; k < systems.count; ++k) work(k, b.read(k), x.write(k));
     }
     // work(a, b, x)
     template <class Work>
-    [[gnu::noinline, gnu::flatten]] void forSystems(const Work& work) const {
+    void forSystems(const Work& work) const {
         const Array a(systems.a);
         forVectors([&](std::ptrdiff_t k, const T* b, T* x) { work(a.read(k), b, x); });
     }
 
     const Systems<T>& systems;
 };
+
+// Eigen's part of the work, all that it calls included: once for all placements, as it takes long
+// to compile.
+template <class Decomposition, class Source>
+[[gnu::noinline, gnu::flatten]] void decompose(const Source& a, Decomposition& decomposition) {
+    decomposition.compute(a);
+}
+template <class Decomposition, class Given, class Solution>
+[[gnu::noinline, gnu::flatten]] void solveWith(const Decomposition& decomposition, const Given& b,
+                                               Solution x) {
+    x = decomposition.solve(b);
+}
 
 template <class Family, class T, int rows, int columns, Placement placement>
 class EigenMethod : public ObjectByObject<T, rows, columns, placement> {
@@ -323,21 +339,22 @@ public:
         switch (task) {
         case Task::factor:
             Base::forMatrices(
-                [&](std::ptrdiff_t k, const T* a) { decompositions[k].compute(Source(a)); });
+                [&](std::ptrdiff_t k, const T* a) { decompose(Source(a), decompositions[k]); });
             break;
         case Task::solve:
             Base::forVectors([&](std::ptrdiff_t k, const T* b, T* x) {
-                Solution{x} = decompositions[k].solve(Given(b));
+                solveWith(decompositions[k], Given(b), Solution(x));
             });
             break;
         case Task::factorAndSolve:
             Base::forSystems([&](const T* a, const T* b, T* x) {
-                Solution{x} = Decomposition(Source(a)).solve(Given(b));
+                decompose(Source(a), decompositions[0]);
+                solveWith(decompositions[0], Given(b), Solution(x));
             });
             break;
         case Task::solveWithOne:
             Base::forVectors([&](std::ptrdiff_t, const T* b, T* x) {
-                Solution{x} = decompositions[0].solve(Given(b));
+                solveWith(decompositions[0], Given(b), Solution(x));
             });
             break;
         }
@@ -348,8 +365,8 @@ private:
     std::vector<Decomposition> decompositions;
 };
 
-// Rows are columns to LAPACK, which gets the transposed matrices and is asked for what that makes of
-// the task.
+// Rows are columns to LAPACK, which gets the transposed matrices and is asked for what that makes
+// of the task.
 template <class Family, class T, int rows, int columns, Placement placement>
 class LapackMethod : public ObjectByObject<T, rows, columns, placement> {
     using Base = ObjectByObject<T, rows, columns, placement>;
@@ -358,7 +375,8 @@ class LapackMethod : public ObjectByObject<T, rows, columns, placement> {
 
 public:
     explicit LapackMethod(const Systems<T>& given)
-        : Base(given), factors(static_cast<std::size_t>(given.matrixCount * size)),
+        : Base(given),
+          factors(static_cast<std::size_t>(given.matrixCount * size)),
           extras(static_cast<std::size_t>(given.matrixCount * columns)) {}
 
     bool perform(Task task) override {
@@ -506,6 +524,8 @@ void row(Session& session, Task task, Memory memory) {
     constexpr Placement access =
         placement == Placement::adjacent ? Placement::scattered : placement;
 
+    // Larger ones make nothing of memory.
+    if (memory == Memory::streamed && rows > 6) return;
     const int count = countFor(memory, bytesOf<Family, T>(task, rows, columns));
     const Subject subject = subjectOf<Family, T>(task, rows, columns, placement, memory, count);
     if (!session.wants(subject)) return;
@@ -545,8 +565,7 @@ void row(Session& session, Task task, Memory memory) {
 // work(rows, columns) as constants and both types.
 template <class Family, class Work>
 void forShapes(const Work& work) {
-    forSizes<3, 4, 5, 6, 8, 16>(
-        [&]<class T, int n>() { work.template operator()<T, n, n>(); });
+    forSizes<3, 4, 5, 6, 8, 16>([&]<class T, int n>() { work.template operator()<T, n, n>(); });
     if constexpr (Family::hasLeastSquares) {
         work.template operator()<float, 8, 4>();
         work.template operator()<double, 8, 4>();
@@ -594,8 +613,8 @@ void tablesOnThreads(Session& session) {
             const Systems<T> systems(n, n, count, placement, task, Family::template fill<T>);
             LibraryMethod<Family, T> method(systems);
             prepare(method, task);
-            std::vector<Contender> contenders = twoThreadsAndOne(
-                [&](int threads) { return method.perform(task, threads); });
+            std::vector<Contender> contenders =
+                twoThreadsAndOne([&](int threads) { return method.perform(task, threads); });
             append(contenders, roofline<T>(subject, 2));
             session.measure(subject, contenders, [&] {
                 if (task == Task::factor) method.perform(Task::solve);
@@ -617,10 +636,9 @@ void tablesOnThreads(Session& session) {
 // "LU" and "LU on threads".
 template <class Family>
 struct Tables {
-    Registration cachedAndStreamed{
-        {Family::name,
-         {"qorm", "loop", "Eigen", "LAPACK", "lanes", "memcpy", "peak"},
-         tables<Family>}};
+    Registration cachedAndStreamed{{Family::name,
+                                    {"qorm", "loop", "Eigen", "LAPACK", "lanes", "memcpy", "peak"},
+                                    tables<Family>}};
     Registration onThreads{{std::string(Family::name) + " on threads",
                             {"2 threads", "1 thread", "memcpy", "peak"},
                             tablesOnThreads<Family>}};

@@ -1,6 +1,7 @@
-// LU, Cholesky and QR factors and the solvers that take them, for elements of any kind of value: the
-// numbers of one object, in a loop over objects of which compilers make vectors, or registers with
-// an object in each lane. Math has the functions of a value. All diagonals are kept as reciprocals.
+// LU, Cholesky and QR factors and the solvers that take them, for elements of any kind of value:
+// the numbers of one object, in a loop over objects of which compilers make vectors, or registers
+// with an object in each lane. Math has the functions of a value. All diagonals are kept as
+// reciprocals.
 //
 // Everything is unrolled: else compilers keep the matrix in memory.
 #pragma once
@@ -54,8 +55,8 @@ template <int n, class Tile, class Vector>
     }
 }
 
-// A step of LU exchanges rows from a column on. Values that belong to the rows move with them: their
-// numbers, or the right-hand side.
+// A step of LU exchanges rows from a column on. Values that belong to the rows move with them:
+// their numbers, or the right-hand side.
 template <int n, class Tile>
 [[gnu::always_inline]] inline void eliminateColumn(Tile& m, int p) {
     m[p][p] = 1 / m[p][p];
@@ -242,7 +243,8 @@ struct Qr {
         if constexpr (rows == columns) {
             constexpr int last = columns - 1;
             m[last][last] = 1 / m[last][last];
-            scales[last] = {};
+            scales[last] =
+                m[last][last]; // not used, but compilers make vectors of runs without gaps
         }
     }
 

@@ -169,7 +169,7 @@ auto kernelOf() {
     if constexpr (factorisation == Factorisation::qr) return Qr<LaneMath<T>>();
 }
 
-// Values of the objects from k on, one below the other, by number or by a register of numbers.
+// A vector of the objects from k on: elements by their number, which may differ from lane to lane.
 template <class T, int n>
 struct Column {
     Planes<T> values;
@@ -184,15 +184,44 @@ struct Column {
     }
 };
 
+// What is the same for all objects.
+template <class T>
+void spread(T value, Register<T>& lanes) {
+    lanes = Register<T>{} + value;
+}
+template <class T>
+void spread(T value, int& number) {
+    number = static_cast<int>(value);
+}
+
 template <class T, Factorisation factorisation, int rows, int columns>
-struct LaneTasks {
+class LaneTasks {
+public:
+    explicit LaneTasks(const SystemsInLanes<T>& given) : systems(given) {}
+
+    void run(Task task) const {
+        switch (task) {
+        case Task::factor:
+            return forRegisters([&](std::ptrdiff_t k) { factor(k); });
+        case Task::solve:
+            return forRegisters([&](std::ptrdiff_t k) { solve(k); });
+        case Task::factorAndSolve:
+            return forRegisters([&](std::ptrdiff_t k) { factorAndSolve(k); });
+        case Task::solveWithOne:
+            return solveWithOne();
+        }
+    }
+
+private:
     using Kernel = decltype(kernelOf<T, factorisation>());
     using Matrix = Register<T>[rows][columns];
+    using Vector = Register<T>[rows];
     static constexpr int extras = Kernel::template extras<rows, columns>;
-    using Extras = Register<T>[rows];
 
-    const SystemsInLanes<T>& systems;
-
+    template <class Work>
+    void forRegisters(const Work& work) const {
+        for (std::ptrdiff_t k = 0; k < systems.count; k += lanes<T>) work(k);
+    }
     template <class Work>
     static void forUsed(const Work& work) {
 #pragma GCC unroll 16
@@ -203,31 +232,14 @@ struct LaneTasks {
             }
         }
     }
-    // One object's values in all lanes, or those of the objects from k on.
-    template <bool isOne>
-    static Register<T> values(const Register<T>& from) {
-        return isOne ? Register<T>{} + from[0] : from;
-    }
     static void load(Planes<T> from, std::ptrdiff_t k, Matrix& m) {
         const auto elements = elementsOf(from, columns, k);
         forUsed([&](int i, int j) { m[i][j] = elements(i, j); });
     }
-    template <bool isOne>
-    void loadFactors(std::ptrdiff_t k, Matrix& m, Extras& e) const {
-        const auto elements = elementsOf(systems.factors, columns, k);
-        forUsed([&](int i, int j) { m[i][j] = values<isOne>(elements(i, j)); });
-        const Column<T, rows> kept = {systems.extras, k};
-        for (int i = 0; i < extras; ++i) e[i] = values<isOne>(kept(i));
-    }
-    template <class Vector>
-    void storeSolution(const Vector& x, std::ptrdiff_t k) const {
-        const Column<T, columns> to = {systems.x, k};
-        for (int i = 0; i < columns; ++i) to(i) = x[i];
-    }
 
     void factor(std::ptrdiff_t k) const {
         Matrix m;
-        Extras e;
+        Vector e;
         load(systems.a, k, m);
         Kernel::template factor<rows, columns>(m, e);
         const auto elements = elementsOf(systems.factors, columns, k);
@@ -235,45 +247,48 @@ struct LaneTasks {
         const Column<T, rows> kept = {systems.extras, k};
         for (int i = 0; i < extras; ++i) kept(i) = e[i];
     }
+    template <class Extras>
     void solve(const Matrix& m, const Extras& e, std::ptrdiff_t k) const {
-        Register<T> x[rows];
+        Vector x;
         Kernel::template solve<rows, columns>(m, e, Column<T, rows>{systems.b, k}, x);
-        storeSolution(x, k);
+        const Column<T, columns> solution = {systems.x, k};
+        for (int i = 0; i < columns; ++i) solution(i) = x[i];
     }
     void solve(std::ptrdiff_t k) const {
         Matrix m;
-        Extras e;
-        loadFactors<false>(k, m, e);
+        Vector e;
+        load(systems.factors, k, m);
+        const Column<T, rows> kept = {systems.extras, k};
+        for (int i = 0; i < extras; ++i) e[i] = kept(i);
         solve(m, e, k);
     }
     void factorAndSolve(std::ptrdiff_t k) const {
         Matrix m;
-        Register<T> x[rows];
+        Vector x;
         load(systems.a, k, m);
         const Column<T, rows> b = {systems.b, k};
         for (int i = 0; i < rows; ++i) x[i] = b(i);
         Kernel::template factorAndSolve<rows, columns>(m, x);
-        storeSolution(x, k);
+        const Column<T, columns> solution = {systems.x, k};
+        for (int i = 0; i < columns; ++i) solution(i) = x[i];
+    }
+    static auto extraOfAll() {
+        if constexpr (factorisation == Factorisation::lu)
+            return int();
+        else
+            return Register<T>();
+    }
+    void solveWithOne() const {
+        Matrix m;
+        decltype(extraOfAll()) e[rows];
+        const auto elements = elementsOf(systems.factors, columns, 0);
+        forUsed([&](int i, int j) { spread<T>(elements(i, j)[0], m[i][j]); });
+        const Column<T, rows> kept = {systems.extras, 0};
+        for (int i = 0; i < extras; ++i) spread<T>(kept(i)[0], e[i]);
+        forRegisters([&](std::ptrdiff_t k) { solve(m, e, k); });
     }
 
-    void run(Task task) const {
-        const auto forRegisters = [&](const auto& work) {
-            for (std::ptrdiff_t k = 0; k < systems.count; k += lanes<T>) work(k);
-        };
-        switch (task) {
-        case Task::factor:
-            return forRegisters([&](std::ptrdiff_t k) { factor(k); });
-        case Task::solve:
-            return forRegisters([&](std::ptrdiff_t k) { solve(k); });
-        case Task::factorAndSolve:
-            return forRegisters([&](std::ptrdiff_t k) { factorAndSolve(k); });
-        case Task::solveWithOne:
-            Matrix m;
-            Extras e;
-            loadFactors<true>(0, m, e);
-            return forRegisters([&](std::ptrdiff_t k) { solve(m, e, k); });
-        }
-    }
+    const SystemsInLanes<T>& systems;
 };
 
 } // namespace
@@ -326,7 +341,7 @@ template <class T, Factorisation factorisation>
 void runInLanes(Task task, const SystemsInLanes<T>& systems) {
     const auto runSize = [&]<int rows, int columns>() {
         if (rows != systems.rows || columns != systems.columns) return;
-        LaneTasks<T, factorisation, rows, columns>{systems}.run(task);
+        LaneTasks<T, factorisation, rows, columns>(systems).run(task);
     };
     [&]<int... sizes>(std::integer_sequence<int, sizes...>) {
         (runSize.template operator()<sizes, sizes>(), ...);

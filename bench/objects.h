@@ -107,7 +107,8 @@ class Elements {
 public:
     explicit Elements(const Matrices<T>& array) : Elements(array, array.base()) {}
     Elements(const Matrices<T>& array, T* first) : base(first), objects(array.pointers()) {
-        if constexpr (hasPositions) std::copy_n(array.pointers(), rows * columns, positions.begin());
+        if constexpr (hasPositions)
+            std::copy_n(array.pointers(), rows * columns, positions.begin());
     }
 
     T& operator()(std::ptrdiff_t k, int i, int j) const {

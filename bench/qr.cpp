@@ -37,7 +37,9 @@ struct QrFamily {
         for (int k = 0; k < reflections(rows, columns); ++k) sum += 4 * (rows - k) - 2;
         return sum;
     }
-    static int reflections(int rows, int columns) { return rows == columns ? columns - 1 : columns; }
+    static int reflections(int rows, int columns) {
+        return rows == columns ? columns - 1 : columns;
+    }
 
     static int workToFactor(int n) { return 2 * n * n; }
     template <class T>
@@ -82,16 +84,15 @@ struct QrFamily {
         using Extra = T;
 
         void factor(T* m, T* scales) {
-            ofType<T>(LAPACKE_sgelqf_work, LAPACKE_dgelqf_work)(LAPACK_COL_MAJOR, columns, rows, m,
-                                                                columns, scales, work.data(),
-                                                                workSize);
+            ofType<T>(LAPACKE_sgelqf_work, LAPACKE_dgelqf_work)(
+                LAPACK_COL_MAJOR, columns, rows, m, columns, scales, work.data(), workSize);
         }
         void solve(const T* m, const T* scales, T* x, int count) {
             ofType<T>(LAPACKE_sormlq_work, LAPACKE_dormlq_work)(LAPACK_COL_MAJOR, 'L', 'N', rows,
                                                                 count, columns, m, columns, scales,
                                                                 x, rows, work.data(), workSize);
-            ofType<T>(LAPACKE_strtrs_work, LAPACKE_dtrtrs_work)(LAPACK_COL_MAJOR, 'L', 'T', 'N',
-                                                                columns, count, m, columns, x, rows);
+            ofType<T>(LAPACKE_strtrs_work, LAPACKE_dtrtrs_work)(
+                LAPACK_COL_MAJOR, 'L', 'T', 'N', columns, count, m, columns, x, rows);
         }
 
     private:
