@@ -183,10 +183,12 @@ private:
 
     template <class Work>
     [[gnu::always_inline]] static void forUsed(const Work& work) {
+        const int rowsEnd = endOf<rows>();
+        const int columnsEnd = endOf<columns>();
 #pragma GCC unroll 16
-        for (int i = 0; i < rows; ++i) {
+        for (int i = 0; i < rowsEnd; ++i) {
 #pragma GCC unroll 16
-            for (int j = 0; j < columns; ++j) {
+            for (int j = 0; j < columnsEnd; ++j) {
                 if (Kernel::uses(i, j)) work(i, j);
             }
         }

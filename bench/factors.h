@@ -3,7 +3,7 @@
 // with an object in each lane. Math has the functions of a value. All diagonals are kept as
 // reciprocals.
 //
-// Everything is unrolled: else compilers keep the matrix in memory.
+// Up to 8x8 everything is unrolled: else compilers keep the matrix in memory.
 #pragma once
 
 #include <cmath>
@@ -27,11 +27,21 @@ struct ScalarMath {
     }
 };
 
+// The end of a loop over so many rows or columns. Compilers are not to see it where straight-line
+// code would take them minutes.
+template <int n>
+[[gnu::always_inline]] inline int endOf() {
+    int end = n;
+    if constexpr (n > 8) __asm__("" : "+r"(end));
+    return end;
+}
+
 // Swaps row p with the one below it that has the largest element in column p, and tells which.
 template <class T, int n>
 int exchangeRows(T (&m)[n][n], int p) {
+    const int end = endOf<n>();
     int pivot = p;
-    for (int i = p + 1; i < n; ++i) {
+    for (int i = p + 1; i < end; ++i) {
         if (std::abs(m[i][p]) > std::abs(m[pivot][p])) pivot = i;
     }
     if (pivot != p) std::swap(m[pivot], m[p]);
@@ -47,10 +57,11 @@ constexpr double eliminationOperations(int n) {
 
 template <int n, class Tile, class Vector>
 [[gnu::always_inline]] inline void substituteBackward(const Tile& m, Vector& x) {
+    const int end = endOf<n>();
 #pragma GCC unroll 16
-    for (int i = n - 1; i >= 0; --i) {
+    for (int i = end - 1; i >= 0; --i) {
 #pragma GCC unroll 16
-        for (int j = n - 1; j > i; --j) x[i] -= m[i][j] * x[j];
+        for (int j = end - 1; j > i; --j) x[i] -= m[i][j] * x[j];
         x[i] *= m[i][i];
     }
 }
@@ -59,12 +70,13 @@ template <int n, class Tile, class Vector>
 // their numbers, or the right-hand side.
 template <int n, class Tile>
 [[gnu::always_inline]] inline void eliminateColumn(Tile& m, int p) {
+    const int end = endOf<n>();
     m[p][p] = 1 / m[p][p];
 #pragma GCC unroll 16
-    for (int i = p + 1; i < n; ++i) {
+    for (int i = p + 1; i < end; ++i) {
         m[i][p] *= m[p][p];
 #pragma GCC unroll 16
-        for (int j = p + 1; j < n; ++j) m[i][j] -= m[i][p] * m[p][j];
+        for (int j = p + 1; j < end; ++j) m[i][j] -= m[i][p] * m[p][j];
     }
 }
 
@@ -82,11 +94,12 @@ struct StepBySelection {
 
     template <int n, class Tile, class Vector>
     [[gnu::always_inline]] static void run(Tile& m, int p, int firstColumn, Vector& moved) {
+        const int end = endOf<n>();
 #pragma GCC unroll 16
-        for (int i = p + 1; i < n; ++i) {
+        for (int i = p + 1; i < end; ++i) {
             const auto isLarger = Math::magnitude(m[i][p]) > Math::magnitude(m[p][p]);
 #pragma GCC unroll 16
-            for (int j = firstColumn; j < n; ++j) exchangeWhere(isLarger, m[p][j], m[i][j]);
+            for (int j = firstColumn; j < end; ++j) exchangeWhere(isLarger, m[p][j], m[i][j]);
             exchangeWhere(isLarger, moved[p], moved[i]);
         }
         eliminateColumn<n>(m, p);
@@ -99,11 +112,12 @@ struct StepByBranches {
 
     template <int n, class Tile, class Vector>
     static void run(Tile& m, int p, int, Vector& moved) {
+        const int end = endOf<n>();
         std::swap(moved[p], moved[exchangeRows(m, p)]);
         const auto r = m[p][p] = 1 / m[p][p];
-        for (int i = p + 1; i < n; ++i) {
+        for (int i = p + 1; i < end; ++i) {
             const auto f = m[i][p] *= r;
-            for (int j = p + 1; j < n; ++j) m[i][j] -= f * m[p][j];
+            for (int j = p + 1; j < end; ++j) m[i][j] -= f * m[p][j];
         }
     }
 };
@@ -117,18 +131,20 @@ struct Lu {
 
     template <int n, int, class Tile, class Order>
     [[gnu::always_inline]] static void factor(Tile& m, Order& order) {
+        const int end = endOf<n>();
 #pragma GCC unroll 16
-        for (int i = 0; i < n; ++i) order[i] = Step::Math::number(i);
+        for (int i = 0; i < end; ++i) order[i] = Step::Math::number(i);
 #pragma GCC unroll 16
-        for (int p = 0; p < n; ++p) Step::template run<n>(m, p, 0, order);
+        for (int p = 0; p < end; ++p) Step::template run<n>(m, p, 0, order);
     }
 
     // b(i) for a row number of `order`.
     template <int n, int, class Tile, class Order, class Given, class Vector>
     [[gnu::always_inline]] static void solve(const Tile& m, const Order& order, const Given& b,
                                              Vector& x) {
+        const int end = endOf<n>();
 #pragma GCC unroll 16
-        for (int i = 0; i < n; ++i) {
+        for (int i = 0; i < end; ++i) {
             x[i] = b(order[i]);
 #pragma GCC unroll 16
             for (int j = 0; j < i; ++j) x[i] -= m[i][j] * x[j];
@@ -138,11 +154,12 @@ struct Lu {
 
     template <int n, int, class Tile, class Vector>
     [[gnu::always_inline]] static void factorAndSolve(Tile& m, Vector& x) {
+        const int end = endOf<n>();
 #pragma GCC unroll 16
-        for (int p = 0; p < n; ++p) {
+        for (int p = 0; p < end; ++p) {
             Step::template run<n>(m, p, p, x);
 #pragma GCC unroll 16
-            for (int i = p + 1; i < n; ++i) x[i] -= m[i][p] * x[p];
+            for (int i = p + 1; i < end; ++i) x[i] -= m[i][p] * x[p];
         }
         substituteBackward<n>(m, x);
     }
@@ -157,8 +174,9 @@ struct Cholesky {
 
     template <int n, int, class Tile, class None>
     [[gnu::always_inline]] static void factor(Tile& m, None&) {
+        const int end = endOf<n>();
 #pragma GCC unroll 16
-        for (int i = 0; i < n; ++i) {
+        for (int i = 0; i < end; ++i) {
 #pragma GCC unroll 16
             for (int j = 0; j < i; ++j) {
 #pragma GCC unroll 16
@@ -173,16 +191,17 @@ struct Cholesky {
 
     template <int n, class Tile, class Vector>
     [[gnu::always_inline]] static void substitute(const Tile& m, Vector& x) {
+        const int end = endOf<n>();
 #pragma GCC unroll 16
-        for (int i = 0; i < n; ++i) {
+        for (int i = 0; i < end; ++i) {
 #pragma GCC unroll 16
             for (int j = 0; j < i; ++j) x[i] -= m[i][j] * x[j];
             x[i] *= m[i][i];
         }
 #pragma GCC unroll 16
-        for (int i = n - 1; i >= 0; --i) {
+        for (int i = end - 1; i >= 0; --i) {
 #pragma GCC unroll 16
-            for (int j = n - 1; j > i; --j) x[i] -= m[j][i] * x[j];
+            for (int j = end - 1; j > i; --j) x[i] -= m[j][i] * x[j];
             x[i] *= m[i][i];
         }
     }
@@ -190,8 +209,9 @@ struct Cholesky {
     template <int n, int, class Tile, class None, class Given, class Vector>
     [[gnu::always_inline]] static void solve(const Tile& m, const None&, const Given& b,
                                              Vector& x) {
+        const int end = endOf<n>();
 #pragma GCC unroll 16
-        for (int i = 0; i < n; ++i) x[i] = b(i);
+        for (int i = 0; i < end; ++i) x[i] = b(i);
         substitute<n>(m, x);
     }
 
@@ -216,11 +236,14 @@ struct Qr {
 
     template <int rows, int columns, class Tile, class Scales>
     [[gnu::always_inline]] static void factor(Tile& m, Scales& scales) {
+        const int rowsEnd = endOf<rows>();
+        const int columnsEnd = endOf<columns>();
+        const int reflectionsEnd = endOf<reflections<rows, columns>>();
 #pragma GCC unroll 16
-        for (int k = 0; k < reflections<rows, columns>; ++k) {
+        for (int k = 0; k < reflectionsEnd; ++k) {
             auto squares = m[k][k] * m[k][k];
 #pragma GCC unroll 16
-            for (int i = k + 1; i < rows; ++i) squares += m[i][k] * m[i][k];
+            for (int i = k + 1; i < rowsEnd; ++i) squares += m[i][k] * m[i][k];
             const auto length = Math::root(squares);
             const auto end = m[k][k] > 0 ? -length : length;
             const auto q = 1 / (m[k][k] - end);
@@ -228,16 +251,16 @@ struct Qr {
             scales[k] = 1 - m[k][k] * r;
             m[k][k] = r;
 #pragma GCC unroll 16
-            for (int i = k + 1; i < rows; ++i) m[i][k] *= q;
+            for (int i = k + 1; i < rowsEnd; ++i) m[i][k] *= q;
 #pragma GCC unroll 16
-            for (int j = k + 1; j < columns; ++j) {
+            for (int j = k + 1; j < columnsEnd; ++j) {
                 auto s = m[k][j];
 #pragma GCC unroll 16
-                for (int i = k + 1; i < rows; ++i) s += m[i][k] * m[i][j];
+                for (int i = k + 1; i < rowsEnd; ++i) s += m[i][k] * m[i][j];
                 s *= scales[k];
                 m[k][j] -= s;
 #pragma GCC unroll 16
-                for (int i = k + 1; i < rows; ++i) m[i][j] -= m[i][k] * s;
+                for (int i = k + 1; i < rowsEnd; ++i) m[i][j] -= m[i][k] * s;
             }
         }
         if constexpr (rows == columns) {
@@ -250,15 +273,17 @@ struct Qr {
 
     template <int rows, int columns, class Tile, class Scales, class Vector>
     [[gnu::always_inline]] static void substitute(const Tile& m, const Scales& scales, Vector& x) {
+        const int rowsEnd = endOf<rows>();
+        const int reflectionsEnd = endOf<reflections<rows, columns>>();
 #pragma GCC unroll 16
-        for (int k = 0; k < reflections<rows, columns>; ++k) {
+        for (int k = 0; k < reflectionsEnd; ++k) {
             auto s = x[k];
 #pragma GCC unroll 16
-            for (int i = k + 1; i < rows; ++i) s += m[i][k] * x[i];
+            for (int i = k + 1; i < rowsEnd; ++i) s += m[i][k] * x[i];
             s *= scales[k];
             x[k] -= s;
 #pragma GCC unroll 16
-            for (int i = k + 1; i < rows; ++i) x[i] -= m[i][k] * s;
+            for (int i = k + 1; i < rowsEnd; ++i) x[i] -= m[i][k] * s;
         }
         substituteBackward<columns>(m, x);
     }
@@ -266,8 +291,9 @@ struct Qr {
     template <int rows, int columns, class Tile, class Scales, class Given, class Vector>
     [[gnu::always_inline]] static void solve(const Tile& m, const Scales& scales, const Given& b,
                                              Vector& x) {
+        const int rowsEnd = endOf<rows>();
 #pragma GCC unroll 16
-        for (int i = 0; i < rows; ++i) x[i] = b(i);
+        for (int i = 0; i < rowsEnd; ++i) x[i] = b(i);
         substitute<rows, columns>(m, scales, x);
     }
 

@@ -56,11 +56,8 @@ struct LuFamily {
         }
     };
 
-    // At 16x16 straight-line code pays only where compilers make vectors of the loop over objects.
-    template <class T, int n, Placement placement>
-    using LoopKernel =
-        Lu<std::conditional_t<n <= 8 || (placement == Placement::packed && sizeof(T) == 4),
-                              StepBySelection<ScalarMath>, StepByBranches>>;
+    template <class, int n, Placement>
+    using LoopKernel = Lu<std::conditional_t<n <= 8, StepBySelection<ScalarMath>, StepByBranches>>;
     template <class T>
     using Extra = std::int32_t;
 

@@ -1,17 +1,19 @@
 /** @file add.h
- *  Sums of matrices, element by element.
+ *  Sums, element by element: of matrices, of vectors, and of a vector and a constant.
  *
- *  Shapes. `width` and `height` are those of the destination. An operand used as stored (`m`,
- *  `ma`) has the same; an operand used transposed (`t`, `ta`) lies in memory with `width` rows and
- *  `height` columns. In array forms the destination is an array of `count` matrices and a single
- *  operand serves every object.
+ *  Shapes. Of matrices, `width` and `height` are those of the destination. An operand used as
+ *  stored (`m`, `ma`) has the same; an operand used transposed (`t`, `ta`) lies in memory with
+ *  `width` rows and `height` columns. Of vectors, all have `len` elements. In array forms the
+ *  destination is an array of `count` objects and a single operand or constant serves every object.
  *
  *  Arithmetic. One IEEE addition per element, in the element type; the bits do not depend on the
  *  path, the layout or the threads. No status but that of a failed check is ever returned.
  *
  *  In place. The destination may coincide with an operand used as stored of the same shape and
  *  strides. A destination that overlaps a transposed operand, or a single operand of an array
- *  form, is not defined.
+ *  form, is not defined. Other overlaps are defined only for `vv` and `vc` without suffix where
+ *  every stride is the element size (`vv` not at lengths 3 to 6): elements are done one by one, i
+ *  ascending.
  *
  *  Layouts, units and statuses: qorm/types.h.
  */
@@ -304,6 +306,126 @@ QORM_API qorStatus qormAdd_tata_64f_L(const double* const* ppSrc1, int32_t src1S
                                       int32_t src2Stride1, int32_t src2Stride2,
                                       double* const* ppDst, int32_t dstShift, int32_t dstStride1,
                                       int32_t dstStride2, int32_t width, int32_t height,
+                                      int32_t count);
+/** @} */
+
+/** @name Sum of two vectors: dst(i) = x(i) + y(i)
+ *  Checks, in this order: null pointer, size, strides (`_P`: shifts).
+ *  @{ */
+QORM_API qorStatus qormAdd_vv_32f(const float* pSrc1, int32_t src1Stride2, const float* pSrc2,
+                                  int32_t src2Stride2, float* pDst, int32_t dstStride2,
+                                  int32_t len);
+QORM_API qorStatus qormAdd_vv_32f_P(const float* const* ppSrc1, int32_t src1Shift,
+                                    const float* const* ppSrc2, int32_t src2Shift,
+                                    float* const* ppDst, int32_t dstShift, int32_t len);
+QORM_API qorStatus qormAdd_vv_64f(const double* pSrc1, int32_t src1Stride2, const double* pSrc2,
+                                  int32_t src2Stride2, double* pDst, int32_t dstStride2,
+                                  int32_t len);
+QORM_API qorStatus qormAdd_vv_64f_P(const double* const* ppSrc1, int32_t src1Shift,
+                                    const double* const* ppSrc2, int32_t src2Shift,
+                                    double* const* ppDst, int32_t dstShift, int32_t len);
+/** @} */
+
+/** @name Sum of a vector and a constant: dst(i) = x(i) + val
+ *  Checks, in this order: null pointer, size, strides (`_P`: shifts).
+ *  @{ */
+QORM_API qorStatus qormAdd_vc_32f(const float* pSrc, int32_t srcStride2, float val, float* pDst,
+                                  int32_t dstStride2, int32_t len);
+QORM_API qorStatus qormAdd_vc_32f_P(const float* const* ppSrc, int32_t srcShift, float val,
+                                    float* const* ppDst, int32_t dstShift, int32_t len);
+QORM_API qorStatus qormAdd_vc_64f(const double* pSrc, int32_t srcStride2, double val, double* pDst,
+                                  int32_t dstStride2, int32_t len);
+QORM_API qorStatus qormAdd_vc_64f_P(const double* const* ppSrc, int32_t srcShift, double val,
+                                    double* const* ppDst, int32_t dstShift, int32_t len);
+/** @} */
+
+/** @name Sum of each vector of an array and one vector: dst_n(i) = x_n(i) + y(i)
+ *  Checks, in this order: null pointer, size, strides, count; shifts come behind the count in `_P`
+ *  and before it in `_L`.
+ *  @{ */
+QORM_API qorStatus qormAdd_vav_32f(const float* pSrc1, int32_t src1Stride0, int32_t src1Stride2,
+                                   const float* pSrc2, int32_t src2Stride2, float* pDst,
+                                   int32_t dstStride0, int32_t dstStride2, int32_t len,
+                                   int32_t count);
+QORM_API qorStatus qormAdd_vav_32f_P(const float* const* ppSrc1, int32_t src1Shift,
+                                     int32_t src1Stride0, const float* const* ppSrc2,
+                                     int32_t src2Shift, float* const* ppDst, int32_t dstShift,
+                                     int32_t dstStride0, int32_t len, int32_t count);
+QORM_API qorStatus qormAdd_vav_32f_L(const float* const* ppSrc1, int32_t src1Shift,
+                                     int32_t src1Stride2, const float* pSrc2, int32_t src2Stride2,
+                                     float* const* ppDst, int32_t dstShift, int32_t dstStride2,
+                                     int32_t len, int32_t count);
+QORM_API qorStatus qormAdd_vav_64f(const double* pSrc1, int32_t src1Stride0, int32_t src1Stride2,
+                                   const double* pSrc2, int32_t src2Stride2, double* pDst,
+                                   int32_t dstStride0, int32_t dstStride2, int32_t len,
+                                   int32_t count);
+QORM_API qorStatus qormAdd_vav_64f_P(const double* const* ppSrc1, int32_t src1Shift,
+                                     int32_t src1Stride0, const double* const* ppSrc2,
+                                     int32_t src2Shift, double* const* ppDst, int32_t dstShift,
+                                     int32_t dstStride0, int32_t len, int32_t count);
+QORM_API qorStatus qormAdd_vav_64f_L(const double* const* ppSrc1, int32_t src1Shift,
+                                     int32_t src1Stride2, const double* pSrc2, int32_t src2Stride2,
+                                     double* const* ppDst, int32_t dstShift, int32_t dstStride2,
+                                     int32_t len, int32_t count);
+/** @} */
+
+/** @name Sum of each vector of an array and a constant: dst_n(i) = x_n(i) + val
+ *  Checks, in this order: null pointer, count, size, strides, shifts (`_P`, `_L`).
+ *  @{ */
+QORM_API qorStatus qormAdd_vac_32f(const float* pSrc, int32_t srcStride0, int32_t srcStride2,
+                                   float val, float* pDst, int32_t dstStride0, int32_t dstStride2,
+                                   int32_t len, int32_t count);
+QORM_API qorStatus qormAdd_vac_32f_P(const float* const* ppSrc, int32_t srcShift,
+                                     int32_t srcStride0, float val, float* const* ppDst,
+                                     int32_t dstShift, int32_t dstStride0, int32_t len,
+                                     int32_t count);
+QORM_API qorStatus qormAdd_vac_32f_L(const float* const* ppSrc, int32_t srcShift,
+                                     int32_t srcStride2, float val, float* const* ppDst,
+                                     int32_t dstShift, int32_t dstStride2, int32_t len,
+                                     int32_t count);
+QORM_API qorStatus qormAdd_vac_64f(const double* pSrc, int32_t srcStride0, int32_t srcStride2,
+                                   double val, double* pDst, int32_t dstStride0, int32_t dstStride2,
+                                   int32_t len, int32_t count);
+QORM_API qorStatus qormAdd_vac_64f_P(const double* const* ppSrc, int32_t srcShift,
+                                     int32_t srcStride0, double val, double* const* ppDst,
+                                     int32_t dstShift, int32_t dstStride0, int32_t len,
+                                     int32_t count);
+QORM_API qorStatus qormAdd_vac_64f_L(const double* const* ppSrc, int32_t srcShift,
+                                     int32_t srcStride2, double val, double* const* ppDst,
+                                     int32_t dstShift, int32_t dstStride2, int32_t len,
+                                     int32_t count);
+/** @} */
+
+/** @name Sum of two arrays of vectors, object by object: dst_n(i) = x_n(i) + y_n(i)
+ *  Checks, in this order: null pointer, count, size, strides, shifts (`_P`, `_L`).
+ *  @{ */
+QORM_API qorStatus qormAdd_vava_32f(const float* pSrc1, int32_t src1Stride0, int32_t src1Stride2,
+                                    const float* pSrc2, int32_t src2Stride0, int32_t src2Stride2,
+                                    float* pDst, int32_t dstStride0, int32_t dstStride2,
+                                    int32_t len, int32_t count);
+QORM_API qorStatus qormAdd_vava_32f_P(const float* const* ppSrc1, int32_t src1Shift,
+                                      int32_t src1Stride0, const float* const* ppSrc2,
+                                      int32_t src2Shift, int32_t src2Stride0, float* const* ppDst,
+                                      int32_t dstShift, int32_t dstStride0, int32_t len,
+                                      int32_t count);
+QORM_API qorStatus qormAdd_vava_32f_L(const float* const* ppSrc1, int32_t src1Shift,
+                                      int32_t src1Stride2, const float* const* ppSrc2,
+                                      int32_t src2Shift, int32_t src2Stride2, float* const* ppDst,
+                                      int32_t dstShift, int32_t dstStride2, int32_t len,
+                                      int32_t count);
+QORM_API qorStatus qormAdd_vava_64f(const double* pSrc1, int32_t src1Stride0, int32_t src1Stride2,
+                                    const double* pSrc2, int32_t src2Stride0, int32_t src2Stride2,
+                                    double* pDst, int32_t dstStride0, int32_t dstStride2,
+                                    int32_t len, int32_t count);
+QORM_API qorStatus qormAdd_vava_64f_P(const double* const* ppSrc1, int32_t src1Shift,
+                                      int32_t src1Stride0, const double* const* ppSrc2,
+                                      int32_t src2Shift, int32_t src2Stride0, double* const* ppDst,
+                                      int32_t dstShift, int32_t dstStride0, int32_t len,
+                                      int32_t count);
+QORM_API qorStatus qormAdd_vava_64f_L(const double* const* ppSrc1, int32_t src1Shift,
+                                      int32_t src1Stride2, const double* const* ppSrc2,
+                                      int32_t src2Shift, int32_t src2Stride2, double* const* ppDst,
+                                      int32_t dstShift, int32_t dstStride2, int32_t len,
                                       int32_t count);
 /** @} */
 

@@ -81,7 +81,7 @@ qorStatus factoriseOneCholesky(const Src& src, const Dst& dst, N n,
                                typename decltype(src(0, 0))::Value threshold) {
     using T = typename decltype(src(0, 0))::Value;
     std::ptrdiff_t rows = 0;
-    if constexpr (isFixed<N>) {
+    if constexpr (hasOwnPath<N>) {
         T elements[areaOf<N>];
         const PackMatrix<T, N> work = {elements, n};
         for (std::ptrdiff_t i = 0; i < n; ++i) {
@@ -103,12 +103,15 @@ template <class V, class Src, class Dst, class N>
                                                   std::ptrdiff_t first, int live, N n,
                                                   LaneType<V> threshold) {
     if constexpr (laneCount<V> == 1) {
-        return factoriseOneCholesky(src.object(first, n), dst.object(first, n), n, threshold);
+        return factoriseOneCholesky(src.object(first, n), dst.object(first, n), sizeOfOne(n),
+                                    threshold);
     } else {
         V elements[areaOf<N>];
         const PackMatrix<V, N> work = {elements, n};
         loadLanes<Part::lowerTriangle>(src, first, live, n, n, work);
-        if (factoriseRows<V>(work, work, n, threshold) < n) return qorStatusNotPositiveDefinite;
+        const auto rows = runFor<factoriseRows<V, PackMatrix<V, N>, PackMatrix<V, N>, N>>(
+            src, work, work, n, threshold);
+        if (rows < n) return qorStatusNotPositiveDefinite;
         storeLanes<Part::lowerTriangle>(dst, first, live, n, n, work);
         return qorStatusOk;
     }
@@ -122,7 +125,7 @@ qorStatus factoriseCholesky(const Src& src, const Dst& dst, Size size, Count cou
     const auto guard = [&] {
         return guardOf(sharingOf(n, Sharing::places), src, dst, {n, n}, count.value);
     };
-    return withStaticSize(n, [&](auto fixed) {
+    return withKnownSize(n, [&](auto fixed) {
         return onAllObjects<LanesOf<T>, Src::holdsArray>(
             guard, count.value, [&]<class V>(std::ptrdiff_t first, int live) {
                 return factoriseCholeskyBlock<V>(src, dst, first, live, fixed, threshold);

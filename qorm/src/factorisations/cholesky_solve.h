@@ -36,6 +36,11 @@ void substituteCholesky(const D& d, const B& b, X& x, N n) {
     }
 }
 
+template <class V, class N>
+void substituteLanes(const Loaded<V, N>& factors, LoadedVector<V, N>& x, N n) {
+    substituteCholesky<V>(factors, x, x, n);
+}
+
 template <class W, class Matrix, class N>
 Loaded<W, N> loadLowerTriangle(const Matrix& matrix, std::ptrdiff_t first, int live, N n) {
     Loaded<W, N> factors(n);
@@ -49,19 +54,20 @@ template <class V, class Matrix, class B, class X, class N, class Shared>
 [[gnu::flatten]] qorStatus solveCholeskyBlock(const Matrix matrix, const B b, const X x,
                                               std::ptrdiff_t first, int live, N n,
                                               const Shared& shared) {
-    if constexpr (laneCount<V> == 1 && !isFixed<N>) {
+    if constexpr (laneCount<V> == 1 && !hasOwnPath<N>) {
         auto solution = vectorOf(x, first, n);
-        substituteCholesky<V>(matrix.object(first, n), vectorOf(b, first, n), solution, n);
+        substituteCholesky<V>(matrix.object(first, n), vectorOf(b, first, n), solution,
+                              sizeOfOne(n));
     } else {
         LoadedVector<V, N> solution;
         solution.load(b, first, live, n);
-        if constexpr (!Matrix::holdsArray && isFixed<N>) {
+        if constexpr (!Matrix::holdsArray && hasOwnPath<N>) {
             substituteCholesky<V>(shared, solution, solution, n);
         } else if constexpr (!Matrix::holdsArray) {
             substituteCholesky<V>(matrix.object(0, n), solution, solution, n);
         } else {
-            substituteCholesky<V>(loadLowerTriangle<V>(matrix, first, live, n), solution, solution,
-                                  n);
+            const Loaded<V, N> factors = loadLowerTriangle<V>(matrix, first, live, n);
+            runFor<substituteLanes<V, N>>(matrix, factors, solution, n);
         }
         solution.store(x, first, live, n);
     }
@@ -77,14 +83,14 @@ qorStatus solveCholesky(const Matrix& matrix, const B& b, const X& x, Size size,
         return guardOfSystems(matrix, {n, n}, sharingOf(n, Sharing::none), b,
                               sharingOf(n, Sharing::places), x, count.value);
     };
-    return withStaticSize(n, [&](auto fixed) {
+    return withKnownSize(n, [&](auto fixed) {
         const auto solveAll = [&](const auto& shared) {
             return onAllObjects<LanesOf<T>, X::holdsArray>(
                 guard, count.value, [&]<class V>(std::ptrdiff_t first, int live) {
                     return solveCholeskyBlock<V>(matrix, b, x, first, live, fixed, shared);
                 });
         };
-        if constexpr (!Matrix::holdsArray && isFixed<decltype(fixed)>)
+        if constexpr (!Matrix::holdsArray && hasOwnPath<decltype(fixed)>)
             return solveAll(loadLowerTriangle<T>(matrix, 0, 1, fixed));
         else
             return solveAll(nullptr);

@@ -84,8 +84,8 @@ void substituteByTerms(const Factors& lu, const Reciprocals& reciprocals, const 
 }
 
 // Other sizes: the terms are summed first, the lowest column first, and the pivots divide.
-template <class V, class Factors, class B, class X>
-void substituteBySums(const Factors& lu, const B& b, X& x, std::ptrdiff_t n) {
+template <class V, class Factors, class B, class X, class N>
+void substituteBySums(const Factors& lu, const B& b, X& x, N n) {
     for (std::ptrdiff_t i = 0; i < n; ++i) {
         V sum(0);
         for (std::ptrdiff_t j = 0; j < i; ++j) sum = sum + V(lu(i, j)) * V(x(j));
@@ -112,7 +112,7 @@ struct LuFactors : Loaded<W, N> {
 
 template <class V, class Factors, class B, class X, class N>
 void substituteLu(const Factors& factors, const B& b, X& x, N n) {
-    if constexpr (isFixed<N>)
+    if constexpr (hasOwnPath<N>)
         substituteByTerms<V>(factors, factors.reciprocals, b, x, n);
     else
         substituteBySums<V>(factors, b, x, n);
@@ -130,28 +130,30 @@ LuFactors<T, N> loadFactors(const Matrix& matrix, Run<const std::int32_t> index,
     return factors;
 }
 
-// The factors of a matrix in each lane.
-template <class V, class Matrix, class N>
-LuFactors<V, N> loadFactors(const Matrix& matrix, const LoadedVector<V, N>& index,
-                            std::ptrdiff_t first, int live, N n) {
+// The systems in the lanes of a block, whose factors' rows are where they were stored.
+template <class V, class N>
+void solveUnorderedLanes(const Loaded<V, N>& unordered, const LoadedVector<V, N>& index,
+                         const LoadedVector<V, N>& right, LoadedVector<V, N>& solution, N n) {
     LuFactors<V, N> factors(n);
-    if constexpr (isFixed<N>) {
-        Loaded<V, N> unordered(n);
-        loadLanes(matrix, first, live, n, n, unordered.matrix());
-        for (std::ptrdiff_t i = 0; i < n; ++i) {
-            for (std::ptrdiff_t j = 0; j < n; ++j) {
-                const auto column = [&](std::ptrdiff_t k) { return unordered(k, j); };
-                factors.matrix()(i, j) = inOrder<V>(column, index, i, n);
-            }
+    LoadedVector<V, N> ordered;
+    for (std::ptrdiff_t i = 0; i < n; ++i) {
+        for (std::ptrdiff_t j = 0; j < n; ++j) {
+            const auto column = [&](std::ptrdiff_t k) { return unordered(k, j); };
+            factors.matrix()(i, j) = inOrder<V>(column, index, i, n);
         }
-        factors.invertPivots(n);
-    } else {
-        const auto rowOf = [&](int lane, std::ptrdiff_t i) {
-            return static_cast<std::ptrdiff_t>(laneOf(index(i), lane));
-        };
-        loadLanesInOrder(matrix, first, live, n, rowOf, factors.matrix());
+        ordered(i) = inOrder<V>(right, index, i, n);
     }
-    return factors;
+    factors.invertPivots(n);
+    substituteByTerms<V>(factors, factors.reciprocals, ordered, solution, n);
+}
+
+// The same where rows are loaded in the order of each lane's index.
+template <class V, class N>
+void solveOrderedLanes(const Loaded<V, N>& factors, const LoadedVector<V, N>& index,
+                       const LoadedVector<V, N>& right, LoadedVector<V, N>& solution, N n) {
+    LoadedVector<V, N> ordered;
+    for (std::ptrdiff_t i = 0; i < n; ++i) ordered(i) = inOrder<V>(right, index, i, n);
+    substituteBySums<V>(factors, ordered, solution, n);
 }
 
 // Systems first .. first + live - 1. `shared` holds the factors of all systems if there is but one
@@ -161,7 +163,7 @@ template <class V, class Matrix, class B, class X, class N, class Shared>
                                         const B b, const X x, std::ptrdiff_t first, int live, N n,
                                         const Shared& shared) {
     constexpr bool isOneByOne = laneCount<V> == 1;
-    if constexpr (isOneByOne && !isFixed<N>) {
+    if constexpr (isOneByOne && !hasOwnPath<N>) {
         const Run<const std::int32_t> index = pivots.object(first);
         auto solution = vectorOf(x, first, n);
         substituteBySums<V>(OrderedRows{matrix.object(first, n), index},
@@ -177,16 +179,24 @@ template <class V, class Matrix, class B, class X, class N, class Shared>
             if constexpr (Matrix::holdsArray)
                 substituteLu<V>(loadFactors<V>(matrix.object(first, n), index, n), ordered,
                                 solution, n);
-            else if constexpr (isFixed<N>)
+            else if constexpr (hasOwnPath<N>)
                 substituteLu<V>(shared, ordered, solution, n);
             else
                 substituteLu<V>(OrderedRows{matrix.object(0, n), index}, ordered, solution, n);
         } else {
             LoadedVector<V, N> index;
-            loadLanes(pivots, first, live, n, PackRun<V>{index.elements});
-            LoadedVector<V, N> ordered;
-            for (std::ptrdiff_t i = 0; i < n; ++i) ordered(i) = inOrder<V>(right, index, i, n);
-            substituteLu<V>(loadFactors<V>(matrix, index, first, live, n), ordered, solution, n);
+            loadPivots(pivots, first, live, n, index.elements);
+            Loaded<V, N> factors(n);
+            if constexpr (hasOwnPath<N>) {
+                loadLanes(matrix, first, live, n, n, factors.matrix());
+                runFor<solveUnorderedLanes<V, N>>(matrix, factors, index, right, solution, n);
+            } else {
+                const auto rowOf = [&](int lane, std::ptrdiff_t i) {
+                    return static_cast<std::ptrdiff_t>(laneOf(index(i), lane));
+                };
+                loadLanesInOrder(matrix, first, live, n, rowOf, factors.matrix());
+                runFor<solveOrderedLanes<V, N>>(matrix, factors, index, right, solution, n);
+            }
         }
         solution.store(x, first, live, n);
         return qorStatusOk;
@@ -202,14 +212,14 @@ qorStatus solveLu(const Matrix& matrix, const Plain<const std::int32_t>& pivots,
         return guardOfSystems(matrix, {n, n}, sharingOf(n, Sharing::none), b,
                               sharingOf(n, Sharing::none), x, count.value);
     };
-    return withStaticSize(n, [&](auto fixed) {
+    return withKnownSize(n, [&](auto fixed) {
         const auto solveAll = [&](const auto& shared) {
             return onAllObjects<LuLanes<T, decltype(fixed)>, X::holdsArray>(
                 guard, count.value, [&]<class V>(std::ptrdiff_t first, int live) {
                     return solveLuBlock<V>(matrix, pivots, b, x, first, live, fixed, shared);
                 });
         };
-        if constexpr (!Matrix::holdsArray && isFixed<decltype(fixed)>)
+        if constexpr (!Matrix::holdsArray && hasOwnPath<decltype(fixed)>)
             return solveAll(loadFactors<T>(matrix.object(0, n), pivots.object(0), fixed));
         else
             return solveAll(nullptr);

@@ -26,14 +26,50 @@ qorStatus onAllObjects(const MakeGuard& guard, std::ptrdiff_t count, const Work&
         return work.template operator()<LaneType<V>>(0, 1);
 }
 
-// Sizes that have a path of their own.
+// The arithmetic of a block, compiled into blocks of contiguous rows by strides, which are the
+// fastest, and once for all other layouts.
+template <auto kernel, class... Arguments>
+[[gnu::noinline, gnu::flatten]] auto runApart(Arguments&... arguments) {
+    return kernel(arguments...);
+}
+template <auto kernel, class Operand, class... Arguments>
+[[gnu::always_inline]] inline auto runFor(const Operand&, Arguments&... arguments) {
+    if constexpr (Operand::layout == Layout::S && Operand::hasContiguousRows)
+        return kernel(arguments...);
+    else
+        return runApart<kernel>(arguments...);
+}
+
+// Sizes that have a path of their own, with rules of its own.
 constexpr bool isUnrolled(std::ptrdiff_t n) {
     return n >= 3 && n <= 6;
 }
+template <class N>
+inline constexpr bool hasOwnPath = isUnrolled(isFixed<N> ? largestSize<N> : 0);
 
 // These paths load all of an object before they store any of it.
 constexpr Sharing sharingOf(std::ptrdiff_t n, Sharing otherwise) {
     return isUnrolled(n) ? Sharing::any : otherwise;
+}
+
+// work(n) with a constant for these sizes, and for 8, which lanes are faster for if they know it.
+template <class Work>
+auto withKnownSize(std::ptrdiff_t n, const Work& work) {
+    return n == 8 ? work(Fixed<8>()) : withStaticSize(n, work);
+}
+template <class Work>
+auto withKnownSquare(std::ptrdiff_t width, std::ptrdiff_t height, const Work& work) {
+    return width == 8 && height == 8 ? work(Fixed<8>(), Fixed<8>())
+                                     : withStaticSquare(width, height, work);
+}
+
+// One object alone is not.
+template <class N>
+constexpr auto sizeOfOne(N n) {
+    if constexpr (hasOwnPath<N>)
+        return n;
+    else
+        return std::ptrdiff_t{n};
 }
 
 // The guard of a factorisation: source and destination are matrices of the same size.

@@ -96,10 +96,10 @@ template <class V, class Src, class T, class Dst, class Width, class Height>
     if constexpr (laneCount<V> == 1) {
         const auto from = src.object(first, width);
         const auto to = dst.object(first, width);
-        for (std::ptrdiff_t i = 0; i < height; ++i) {
-            for (std::ptrdiff_t j = 0; j < width; ++j) to(i, j) = T(from(i, j));
+        for (std::ptrdiff_t i = 0; i < sizeOfOne(height); ++i) {
+            for (std::ptrdiff_t j = 0; j < sizeOfOne(width); ++j) to(i, j) = T(from(i, j));
         }
-        return reduce<T>(to, Run<T>{scratch.base}, width, height);
+        return reduce<T>(to, Run<T>{scratch.base}, sizeOfOne(width), sizeOfOne(height));
     } else {
         V elements[areaOf<Width>];
         const PackMatrix<V, Width> work = {elements, width};
@@ -115,8 +115,8 @@ qorStatus factoriseQr(const Src& src, const Scratch<T>& scratch, const Dst& dst,
                       Size height, Count count = Count(1)) {
     const Extent extent = {height.value, width.value};
     const auto guard = [&] { return guardOf(Sharing::places, src, dst, extent, count.value); };
-    return withStaticSquare(extent.columns, extent.rows, [&](auto columns, auto rows) {
-        return onAllObjects<LanesOf<T, isFixed<decltype(rows)> ? 2 : 1>, Src::holdsArray>(
+    return withKnownSquare(extent.columns, extent.rows, [&](auto columns, auto rows) {
+        return onAllObjects<LanesOf<T, hasOwnPath<decltype(rows)> ? 2 : 1>, Src::holdsArray>(
             guard, count.value, [&]<class V>(std::ptrdiff_t first, int live) {
                 return factoriseQrBlock<V>(src, scratch, dst, first, live, columns, rows);
             });

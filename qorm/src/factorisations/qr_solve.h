@@ -83,11 +83,11 @@ template <class V, class R, class Column, class X, class Width>
 void substituteBack(const R& r, const Column& t, X& x, Width width) {
     for (std::ptrdiff_t i = width - 1; i >= 0; --i) {
         V remainder = V(t(i));
-        if (isFixed<Width> && i > 0) {
+        if (hasOwnPath<Width> && i > 0) {
             for (std::ptrdiff_t j = width - 1; j > i; --j) {
                 remainder = remainder - V(r(i, j)) * V(x(j));
             }
-        } else if (isFixed<Width>) {
+        } else if (hasOwnPath<Width>) {
             V sum = V(r(0, width - 1)) * V(x(width - 1));
             for (std::ptrdiff_t j = width - 2; j > 0; --j) sum = sum + V(r(0, j)) * V(x(j));
             remainder = remainder - sum;
@@ -106,25 +106,35 @@ void solveFactored(const QrFactors& factors, Column& t, X& x, Width width, Heigh
     substituteBack<V>(factors, t, x, width);
 }
 
+// The systems in the lanes of a block.
+template <class V, class Width, class Height>
+void solveLanes(const Loaded<V, Width>& a, LoadedVector<V, Height>& column,
+                LoadedVector<V, Width>& solution, Width width, Height height) {
+    solveFactored<V>(Factors<V, const Loaded<V, Width>&, Height>{a, height}, column, solution,
+                     width, height);
+}
+
 // Systems first .. first + live - 1. `shared` holds the factors of all systems if there is but one
 // matrix of a fixed size.
 template <class V, class Matrix, class T, class B, class X, class Width, class Height, class Shared>
 [[gnu::flatten]] qorStatus solveQrBlock(const Matrix matrix, const Scratch<T> scratch, const B b,
                                         const X x, std::ptrdiff_t first, int live, Width width,
                                         Height height, const Shared& shared) {
-    if constexpr (laneCount<V> == 1 && !isFixed<Width>) {
+    if constexpr (laneCount<V> == 1 && !hasOwnPath<Width>) {
         const Run<T> column = {scratch.base};
         const auto right = vectorOf(b, first, height);
         for (std::ptrdiff_t i = 0; i < height; ++i) column(i) = T(right(i));
         const auto a = matrix.object(first, width);
         const auto solution = vectorOf(x, first, width);
-        solveFactored<T>(Factors<T, decltype(a), Height>{a, height}, column, solution, width,
-                         height);
+        const auto columns = sizeOfOne(width);
+        const auto rows = sizeOfOne(height);
+        solveFactored<T>(Factors<T, decltype(a), decltype(rows)>{a, rows}, column, solution,
+                         columns, rows);
     } else {
         LoadedVector<V, Height> column;
         LoadedVector<V, Width> solution;
         column.load(b, first, live, height);
-        if constexpr (!Matrix::holdsArray && isFixed<Width>) {
+        if constexpr (!Matrix::holdsArray && hasOwnPath<Width>) {
             solveFactored<V>(shared, column, solution, width, height);
         } else if constexpr (!Matrix::holdsArray) {
             const auto a = matrix.object(0, width);
@@ -133,8 +143,7 @@ template <class V, class Matrix, class T, class B, class X, class Width, class H
         } else {
             Loaded<V, Width> a(width);
             loadLanes(matrix, first, live, height, width, a.matrix());
-            solveFactored<V>(Factors<V, const Loaded<V, Width>&, Height>{a, height}, column,
-                             solution, width, height);
+            runFor<solveLanes<V, Width, Height>>(matrix, a, column, solution, width, height);
         }
         solution.store(x, first, live, width);
     }
@@ -150,7 +159,7 @@ qorStatus solveQr(const Matrix& matrix, const Scratch<T>& scratch, const B& b, c
         return guardOfSystems(matrix, extent, sharingOf(square, Sharing::none), b, Sharing::any, x,
                               count.value);
     };
-    return withStaticSquare(extent.columns, extent.rows, [&](auto columns, auto rows) {
+    return withKnownSquare(extent.columns, extent.rows, [&](auto columns, auto rows) {
         const auto solveAll = [&](const auto& shared) {
             return onAllObjects<LanesOf<T>, X::holdsArray>(
                 guard, count.value, [&]<class V>(std::ptrdiff_t first, int live) {
@@ -158,7 +167,7 @@ qorStatus solveQr(const Matrix& matrix, const Scratch<T>& scratch, const B& b, c
                                            shared);
                 });
         };
-        if constexpr (!Matrix::holdsArray && isFixed<decltype(rows)>)
+        if constexpr (!Matrix::holdsArray && hasOwnPath<decltype(rows)>)
             return solveAll(FactorsAndScales<T, decltype(rows)>(matrix, rows));
         else
             return solveAll(nullptr);

@@ -357,9 +357,9 @@ template <Part part = Part::whole, class V, class Operand, class Rows, class Col
 
 // The same with the rows of each lane in an order of their own: row i of the block is row
 // rowOf(lane, i) of the object.
-template <class V, class Operand, class RowOf>
-void loadLanesInOrder(const Operand& operand, std::ptrdiff_t first, int live, std::ptrdiff_t n,
-                      const RowOf& rowOf, PackMatrix<V> block) {
+template <class V, class Operand, class N, class RowOf>
+void loadLanesInOrder(const Operand& operand, std::ptrdiff_t first, int live, N n,
+                      const RowOf& rowOf, PackMatrix<V, N> block) {
     using T = LaneType<V>;
     constexpr int lanes = laneCount<V>;
     if constexpr (Operand::hasContiguousRows && lanes > 1) {
@@ -389,9 +389,9 @@ void loadLanesInOrder(const Operand& operand, std::ptrdiff_t first, int live, st
     }
 }
 
-template <class V, class Operand, class RowOf>
-void storeLanesInOrder(const Operand& operand, std::ptrdiff_t first, int live, std::ptrdiff_t n,
-                       const RowOf& rowOf, PackMatrix<V> block) {
+template <class V, class Operand, class N, class RowOf>
+void storeLanesInOrder(const Operand& operand, std::ptrdiff_t first, int live, N n,
+                       const RowOf& rowOf, PackMatrix<V, N> block) {
     using T = LaneType<V>;
     constexpr int lanes = laneCount<V>;
     if constexpr (Operand::hasContiguousRows && lanes > 1) {

@@ -22,6 +22,35 @@ constexpr std::ptrdiff_t area(std::ptrdiff_t width, std::ptrdiff_t height) {
     return width * height;
 }
 
+template <std::ptrdiff_t value>
+constexpr Fixed<value + 1> after(Fixed<value>) {
+    return {};
+}
+constexpr std::ptrdiff_t after(std::ptrdiff_t value) {
+    return value + 1;
+}
+
+template <std::ptrdiff_t value>
+constexpr Fixed<value - 1> before(Fixed<value>) {
+    return {};
+}
+constexpr std::ptrdiff_t before(std::ptrdiff_t value) {
+    return value - 1;
+}
+
+// work(i) for begin .. end - 1: straight-line code with constants where both are constants.
+template <class Begin, class End, class Work>
+[[gnu::always_inline]] inline void forRange(Begin begin, End end, const Work& work) {
+    if constexpr (isFixed<Begin> && isFixed<End>) {
+        if constexpr (begin < end) {
+            work(begin);
+            forRange(after(begin), end, work);
+        }
+    } else {
+        for (std::ptrdiff_t i = begin; i < end; ++i) work(i);
+    }
+}
+
 // Calls work(n) with a constant for sizes 3 to 6.
 template <class Work>
 auto withStaticSize(std::ptrdiff_t n, const Work& work) {
