@@ -1,9 +1,8 @@
 // What the factorisations and their solvers share: how all objects of a call are done.
 #pragma once
 
-#include "frame/lane_blocks.h"
+#include "frame/loaded.h"
 #include "frame/overlap.h"
-#include "frame/static_size.h"
 
 namespace qorm::factorisations {
 
@@ -11,10 +10,6 @@ namespace qorm::factorisations {
 // other. A guard allows for two.
 template <class T, int registers = 2>
 using LanesOf = Pack<T, registers>;
-
-// Room for the elements of a square of N, or of a column.
-template <class N>
-inline constexpr std::ptrdiff_t areaOf = largestSize<N>* largestSize<N>;
 
 // work.operator()<V>(first, live) on all objects: arrays in lanes where guard() allows it, a single
 // object, which needs no guard, by itself.
@@ -40,30 +35,12 @@ template <auto kernel, class Operand, class... Arguments>
         return runApart<kernel>(arguments...);
 }
 
-// Sizes that have a path of their own, with rules of its own.
-constexpr bool isUnrolled(std::ptrdiff_t n) {
-    return n >= 3 && n <= 6;
-}
-template <class N>
-inline constexpr bool hasOwnPath = isUnrolled(isFixed<N> ? largestSize<N> : 0);
-
 // These paths load all of an object before they store any of it.
 constexpr Sharing sharingOf(std::ptrdiff_t n, Sharing otherwise) {
     return isUnrolled(n) ? Sharing::any : otherwise;
 }
 
-// work(n) with a constant for these sizes, and for 8, which lanes are faster for if they know it.
-template <class Work>
-auto withKnownSize(std::ptrdiff_t n, const Work& work) {
-    return n == 8 ? work(Fixed<8>()) : withStaticSize(n, work);
-}
-template <class Work>
-auto withKnownSquare(std::ptrdiff_t width, std::ptrdiff_t height, const Work& work) {
-    return width == 8 && height == 8 ? work(Fixed<8>(), Fixed<8>())
-                                     : withStaticSquare(width, height, work);
-}
-
-// One object alone is not.
+// Sizes that only lanes know are not known to one object.
 template <class N>
 constexpr auto sizeOfOne(N n) {
     if constexpr (hasOwnPath<N>)

@@ -8,17 +8,11 @@
         return run(ARGUMENTS(GROUP, access, __VA_ARGS__)); \
     }
 
-#define QORM_FUNCTION_m_S(name, form, run, ...) \
+#define QORM_REORDERED_m_S(name, form, run, ARGUMENTS, ...) \
     QORM_CORE(own##name, run, C, __VA_ARGS__) QORM_CORE(own##name##_S2, run, S, __VA_ARGS__)
-#define QORM_FUNCTION_m_P(name, form, run, ...) QORM_CORE(own##name, run, P, __VA_ARGS__)
-#define QORM_FUNCTION_ma_S QORM_FUNCTION_m_S
-#define QORM_FUNCTION_ma_P QORM_FUNCTION_m_P
-#define QORM_FUNCTION_ma_L(name, form, run, ...) \
+#define QORM_REORDERED_m_P(name, form, run, ARGUMENTS, ...) \
+    QORM_CORE(own##name, run, P, __VA_ARGS__)
+#define QORM_REORDERED_ma_S QORM_REORDERED_m_S
+#define QORM_REORDERED_ma_P QORM_REORDERED_m_P
+#define QORM_REORDERED_ma_L(name, form, run, ARGUMENTS, ...) \
     QORM_CORE(own##name, run, LC, __VA_ARGS__) QORM_CORE(own##name##S2, run, L, __VA_ARGS__)
-
-// A destination of vectors makes no difference.
-#define QORM_FUNCTION_v_S QORM_FUNCTION_m_S
-#define QORM_FUNCTION_v_P QORM_FUNCTION_m_P
-#define QORM_FUNCTION_va_S QORM_FUNCTION_ma_S
-#define QORM_FUNCTION_va_P QORM_FUNCTION_ma_P
-#define QORM_FUNCTION_va_L QORM_FUNCTION_ma_L

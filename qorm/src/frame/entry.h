@@ -84,9 +84,9 @@ std::optional<qorStatus> answerOf(const Form& form, const Groups&... groups) {
 
 // Hands a call to the core of its access pattern.
 template <auto core, auto generalCore, class... Groups>
-qorStatus callCore(const Groups&... groups) {
-    if ((groups.isContiguous() && ...)) return call(core, groups.contiguous()...);
-    return call(generalCore, groups...);
+qorStatus callEither(const Groups&... groups) {
+    if ((groups.isContiguous() && ...)) return callCore(core, groups.contiguous()...);
+    return callCore(generalCore, groups...);
 }
 
 // Entry of a form on single objects, which never fans out.
@@ -94,8 +94,8 @@ template <auto core, auto generalCore, class Form, class... Groups>
 qorStatus enterSingle(const Form& form, const Groups&... groups) {
     if (const qorStatus fault = firstFault(form, groups...)) return fault;
     if (const auto answer = answerOf(form, groups...)) return *answer;
-    if (form.alwaysGeneral) return call(generalCore, groups...);
-    return callCore<core, generalCore>(groups...);
+    if (form.alwaysGeneral) return callCore(generalCore, groups...);
+    return callEither<core, generalCore>(groups...);
 }
 
 // Entry of a form on arrays.
@@ -109,7 +109,7 @@ qorStatus enterArray(const Form& form, const Groups&... groups) {
     if (form.fansOut && static_cast<std::int32_t>(measure) >= threshold) {
         return call(driver, groups...);
     }
-    return callCore<core, generalCore>(groups...);
+    return callEither<core, generalCore>(groups...);
 }
 
 } // namespace qorm

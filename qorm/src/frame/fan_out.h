@@ -27,7 +27,7 @@ qorStatus fanOut(const Groups&... groups) {
     const int threads = threads_omp_of_n_qor;
     const int count = std::get<sizeof...(Groups) - 1>(std::tie(groups...)).value;
     if (threads < 2 || count < threads || !(groups.canStep(count) && ...)) {
-        return callCore<core, generalCore>(groups...);
+        return callEither<core, generalCore>(groups...);
     }
 
     const std::size_t scratchBytes = (groups.scratchBytes() + ...);
@@ -43,7 +43,7 @@ qorStatus fanOut(const Groups&... groups) {
         // The setting may have grown since the split was fixed.
         if (thread < threads) {
             const Share share = shareOf(thread, count, threads, scratch);
-            const qorStatus own = callCore<core, generalCore>(groups.share(share)...);
+            const qorStatus own = callEither<core, generalCore>(groups.share(share)...);
 #pragma omp critical
             {
                 if (status == qorStatusOk) status = own;

@@ -272,6 +272,34 @@ struct Size : Group {
     auto arguments() const { return std::tuple(value); }
 };
 
+// A size that cores take behind all operands.
+struct LateSize : Size {
+    using Size::Size;
+
+    LateSize contiguous() const { return *this; }
+    LateSize share(const Share&) const { return *this; }
+};
+
+// A size that cores do not take: it has been found equal to another.
+struct CheckedSize : Size {
+    using Size::Size;
+
+    CheckedSize contiguous() const { return *this; }
+    CheckedSize share(const Share&) const { return *this; }
+};
+
+// A number passed by value.
+template <class T>
+struct Constant : Group {
+    T value;
+
+    explicit Constant(T number) : value(number) {}
+
+    Constant contiguous() const { return *this; }
+    Constant share(const Share&) const { return *this; }
+    auto arguments() const { return std::tuple(value); }
+};
+
 struct Count : Group {
     std::int32_t value;
 
@@ -285,10 +313,36 @@ struct Count : Group {
     auto arguments() const { return std::tuple(value); }
 };
 
-// Calls a function of the C interface with the arguments that the groups stand for.
+// Calls an entry or a driver with the arguments that the groups stand for.
 template <class Function, class... Groups>
 qorStatus call(Function* function, const Groups&... groups) {
     return std::apply(function, std::tuple_cat(groups.arguments()...));
+}
+
+// The place of a group's arguments in a call of a core.
+enum class Place { asGiven, late, none };
+
+template <class G>
+inline constexpr Place placeOf = Place::asGiven;
+template <>
+inline constexpr Place placeOf<LateSize> = Place::late;
+template <>
+inline constexpr Place placeOf<CheckedSize> = Place::none;
+template <>
+inline constexpr Place placeOf<Count> = Place::late;
+
+template <Place place, class G>
+auto argumentsAt(const G& group) {
+    if constexpr (placeOf<G> == place)
+        return group.arguments();
+    else
+        return std::tuple();
+}
+
+template <class Function, class... Groups>
+qorStatus callCore(Function* core, const Groups&... groups) {
+    return std::apply(core, std::tuple_cat(argumentsAt<Place::asGiven>(groups)...,
+                                           argumentsAt<Place::late>(groups)...));
 }
 
 } // namespace qorm

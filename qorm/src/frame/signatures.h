@@ -51,6 +51,8 @@
 #define PARAM_v_S(T, Name, name) T *p##Name, std::int32_t name##Stride2
 #define PARAM_v_C(T, Name, name) T* p##Name
 #define PARAM_v_P PARAM_m_P
+#define PARAM_v_L PARAM_v_S
+#define PARAM_v_LC PARAM_v_C
 #define PARAM_va_S(T, Name, name) T *p##Name, std::int32_t name##Stride0, std::int32_t name##Stride2
 #define PARAM_va_C(T, Name, name) T *p##Name, std::int32_t name##Stride0
 #define PARAM_va_P PARAM_ma_P
@@ -61,6 +63,8 @@
     qorm::Strided<T, qorm::Kind::v, false>(p##Name, 0, 0, name##Stride2)
 #define GROUP_v_C(T, Name, name) qorm::Strided<T, qorm::Kind::v, true>(p##Name, 0, 0, sizeof(T))
 #define GROUP_v_P GROUP_m_P
+#define GROUP_v_L GROUP_v_S
+#define GROUP_v_LC GROUP_v_C
 #define GROUP_va_S(T, Name, name) \
     qorm::Strided<T, qorm::Kind::va, false>(p##Name, name##Stride0, 0, name##Stride2)
 #define GROUP_va_C(T, Name, name) \
@@ -117,6 +121,24 @@
 #define GROUP_width_height_1 qorm::Size(src1Width), qorm::Size(src1Height)
 #define GROUP_width_height_2 qorm::Size(src2Width), qorm::Size(src2Height)
 
+// The length of vectors, and that of an operand that has one of its own.
+#define PARAM_len_v std::int32_t len
+#define PARAM_len_va PARAM_len_v, std::int32_t count
+#define GROUP_len_v qorm::Size(len)
+#define GROUP_len_va GROUP_len_v, qorm::Count(count)
+#define PARAM_len(name) std::int32_t name##Len
+#define GROUP_len(name) qorm::Size(name##Len)
+
+// Sizes that cores take behind all operands, and sizes that they do not take.
+#define PARAM_lateSizes_1 PARAM_width_height_1
+#define GROUP_lateSizes_1 qorm::LateSize(src1Width), qorm::LateSize(src1Height)
+#define PARAM_checkedLen(name) std::int32_t name##Len
+#define GROUP_checkedLen(name) qorm::CheckedSize(name##Len)
+
+// A number passed by value.
+#define PARAM_constant(T, name) T name
+#define GROUP_constant(T, name) qorm::Constant<T>(name)
+
 // Scratch of widthHeight * widthHeight elements, which may go with a table of row numbers, or of a
 // column's elements, and plain arrays of widthHeight results or of one.
 #define PARAM_buffer(T) T* pBuffer
@@ -143,3 +165,32 @@
 #define PARAM_count_ma , std::int32_t count
 #define GROUP_count_m
 #define GROUP_count_ma , qorm::Count(count)
+#define PARAM_count_v PARAM_count_m
+#define PARAM_count_va PARAM_count_ma
+#define GROUP_count_v GROUP_count_m
+#define GROUP_count_va GROUP_count_ma
+
+// QORM_FUNCTION_<destination>_<layout>(name, form, run, ARGUMENTS, ...) is one function of the C
+// interface: its form, the run of its core, and ARGUMENTS(PARAM or GROUP, access, ...), its parameter
+// list. QORM_REORDERED_... is one whose cores have a parameter list of their own, and what a tier
+// defines. Destinations of vectors make no difference.
+#define QORM_FUNCTION_m_S(name, form, run, ARGUMENTS, ...) \
+    QORM_REORDERED_m_S(name, form, run, ARGUMENTS, ARGUMENTS, __VA_ARGS__)
+#define QORM_FUNCTION_m_P(name, form, run, ARGUMENTS, ...) \
+    QORM_REORDERED_m_P(name, form, run, ARGUMENTS, ARGUMENTS, __VA_ARGS__)
+#define QORM_FUNCTION_ma_S(name, form, run, ARGUMENTS, ...) \
+    QORM_REORDERED_ma_S(name, form, run, ARGUMENTS, ARGUMENTS, __VA_ARGS__)
+#define QORM_FUNCTION_ma_P(name, form, run, ARGUMENTS, ...) \
+    QORM_REORDERED_ma_P(name, form, run, ARGUMENTS, ARGUMENTS, __VA_ARGS__)
+#define QORM_FUNCTION_ma_L(name, form, run, ARGUMENTS, ...) \
+    QORM_REORDERED_ma_L(name, form, run, ARGUMENTS, ARGUMENTS, __VA_ARGS__)
+#define QORM_FUNCTION_v_S QORM_FUNCTION_m_S
+#define QORM_FUNCTION_v_P QORM_FUNCTION_m_P
+#define QORM_FUNCTION_va_S QORM_FUNCTION_ma_S
+#define QORM_FUNCTION_va_P QORM_FUNCTION_ma_P
+#define QORM_FUNCTION_va_L QORM_FUNCTION_ma_L
+#define QORM_REORDERED_v_S QORM_REORDERED_m_S
+#define QORM_REORDERED_v_P QORM_REORDERED_m_P
+#define QORM_REORDERED_va_S QORM_REORDERED_ma_S
+#define QORM_REORDERED_va_P QORM_REORDERED_ma_P
+#define QORM_REORDERED_va_L QORM_REORDERED_ma_L

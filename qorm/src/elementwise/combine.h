@@ -1,0 +1,193 @@
+// Element by element: dst(i,j) = op(A(i,j), ...), each source a matrix, a vector or an array of them,
+// as stored or transposed. A vector is a matrix of one row.
+//
+// All paths give the same bits. Every element is read before it is written, in ascending order of
+// objects, rows and columns; only disjoint operands are taken in another order.
+#pragma once
+
+#include "frame/overlap.h"
+#include "frame/static_size.h"
+
+// The iterations of the loop that follows are independent of each other.
+#if defined(__clang__)
+#define QORM_INDEPENDENT _Pragma("clang loop vectorize(assume_safety)")
+#else
+#define QORM_INDEPENDENT _Pragma("GCC ivdep")
+#endif
+
+namespace qorm::elementwise {
+
+// A source as its letter of the shape reads it. The size is the destination's: a transposed source
+// is stored with `height` columns.
+template <Kind kindInShape, class Operand>
+struct Source {
+    using Element = typename Operand::Element;
+    static constexpr Kind kind = kindInShape;
+
+    Operand operand;
+
+    auto object(std::ptrdiff_t n, std::ptrdiff_t width, std::ptrdiff_t height) const {
+        return asRead<kind>(operand.object(n, isTransposed(kind) ? height : width));
+    }
+};
+
+template <Kind kind, class Operand>
+Source<kind, Operand> sourceOf(const Operand& operand) {
+    return {operand};
+}
+
+template <class Op, class D, class... Sources, class Width, class Height>
+[[gnu::always_inline]] inline void combineObjects(const Op& op, const D& dst, Width width,
+                                                  Height height, std::ptrdiff_t count,
+                                                  const Sources&... sources) {
+    for (std::ptrdiff_t n = 0; n < count; ++n) {
+        const auto d = dst.object(n, width);
+        const auto combineInto = [&](const auto&... source) __attribute__((always_inline)) {
+            for (std::ptrdiff_t i = 0; i < height; ++i) {
+                for (std::ptrdiff_t j = 0; j < width; ++j) d(i, j) = op(source(i, j)...);
+            }
+        };
+        combineInto(sources.object(n, width, height)...);
+    }
+}
+
+// The same where the destination is apart from all sources. Told so, the compiler keeps a single
+// source in registers and uses packed arithmetic inside an object. It believes parameters only.
+template <class Op, class D, class Width, class Height, class... Sources>
+[[gnu::noinline]] void combineApart(Op op, D dst, typename D::Element* __restrict base, Width width,
+                                    Height height, std::ptrdiff_t count, Sources... sources,
+                                    typename Sources::Element* __restrict... bases) {
+    dst.base = base;
+    ((sources.operand.base = bases), ...);
+    combineObjects(op, dst, width, height, count, sources...);
+}
+
+// The elements of one position over all objects; a single source has one for all.
+template <bool array, class T>
+auto elementsAlong(Element<T> first) {
+    if constexpr (array)
+        return Run<T>{first.address()};
+    else
+        return [value = std::remove_const_t<T>(first)](std::ptrdiff_t) { return value; };
+}
+
+// Where objects lie side by side: position by position instead of object by object, which makes
+// loops over plain arrays. False, with nothing done, where the order would show.
+template <class Op, class D, class... Sources>
+bool combinePositions(const Op& op, const D& dst, std::ptrdiff_t width, std::ptrdiff_t height,
+                      std::ptrdiff_t count, const Sources&... sources) {
+    const auto d = dst.object(0, width);
+    const auto isIndependent = [&](const auto& source) {
+        return positionsAreIndependent(source.object(0, width, height),
+                                       isArray(source.kind) ? count : 1, d, width, height, count);
+    };
+    if (!(isIndependent(sources) && ...) ||
+        !positionsAreIndependent(d, count, d, width, height, count)) {
+        return false;
+    }
+    for (std::ptrdiff_t i = 0; i < height; ++i) {
+        for (std::ptrdiff_t j = 0; j < width; ++j) {
+            const auto to = elementsAlong<true>(d(i, j));
+            const auto combineAlong = [&](const auto&... elements) {
+                for (std::ptrdiff_t n = 0; n < count; ++n) to(n) = op(elements(n)...);
+            };
+            combineAlong(
+                elementsAlong<isArray(Sources::kind)>(sources.object(0, width, height)(i, j))...);
+        }
+    }
+    return true;
+}
+
+// Whether no element of a source lies where the destination is written. A list is not looked
+// through: a test for each object costs more than it brings.
+template <class S, class D>
+bool isApart(const S& source, const D& dst, std::ptrdiff_t width, std::ptrdiff_t height,
+             std::ptrdiff_t count) {
+    if constexpr (D::layout == Layout::S) {
+        const RegularSpans read = isTransposed(S::kind) ? spansOf(source.operand, width, height)
+                                                        : spansOf(source.operand, height, width);
+        return areApart(read, spansOf(dst, height, width), count);
+    } else {
+        return false;
+    }
+}
+
+template <class Op, class D, class Width, class Height, class... Sources>
+void combineStrided(const Op& op, const D& dst, Width width, Height height, bool apart,
+                    std::ptrdiff_t count, const Sources&... sources) {
+    if constexpr (D::layout == Layout::S) {
+        if (apart) {
+            return combineApart<Op, D, Width, Height, Sources...>(
+                op, dst, dst.base, width, height, count, sources..., sources.operand.base...);
+        }
+    }
+    combineObjects(op, dst, width, height, count, sources...);
+}
+
+// work(width, height) with constants for the squares of 3 to 6 and for vectors of 3 to 6.
+template <class Work>
+void withKnownExtent(std::ptrdiff_t width, std::ptrdiff_t height, const Work& work) {
+    if (height == 1)
+        withStaticSize(width, [&](auto columns) { work(columns, Fixed<1>()); });
+    else
+        withStaticSquare(width, height, work);
+}
+
+// Operands without any gap, of so many elements, that are apart or the same.
+template <class Op, class T, class... Sources>
+void combineRuns(const Op& op, Run<T> dst, std::ptrdiff_t elements, Sources... sources) {
+    QORM_INDEPENDENT
+    for (std::ptrdiff_t k = 0; k < elements; ++k) dst(k) = op(sources(k)...);
+}
+
+template <class Op, class D, class... Sources>
+qorStatus combine(const Op& op, const D& dst, Size widthOf, Size heightOf, Count countOf,
+                  const Sources&... sources) {
+    const std::ptrdiff_t width = widthOf.value;
+    const std::ptrdiff_t height = heightOf.value;
+    const std::ptrdiff_t count = countOf.value;
+    const auto all = [&](auto holds) { return (holds(sources.operand) && ...) && holds(dst); };
+
+    if constexpr (D::layout == Layout::P) {
+        if (count < width * height ||
+            !all([](auto& operand) { return operand.hasObjectsSideBySide(); }) ||
+            !combinePositions(op, dst, width, height, count, sources...)) {
+            withKnownExtent(width, height, [&](auto columns, auto rows) {
+                combineObjects(op, dst, columns, rows, count, sources...);
+            });
+        }
+    } else {
+        constexpr bool asStored = !(isTransposed(Sources::kind) || ...);
+        const bool adjacentRows =
+            asStored && all([&](auto& operand) { return operand.hasAdjacentRows(width); });
+        const auto apart = [&](const auto& source) {
+            return isApart(source, dst, width, height, count);
+        };
+        if constexpr (D::layout == Layout::S) {
+            const auto isApartOrSame = [&](const auto& source) {
+                return source.operand.base == dst.base || apart(source);
+            };
+            const bool isRun =
+                adjacentRows && (count == 1 || all([&](auto& operand) {
+                                     return operand.hasAdjacentObjects(width * height);
+                                 }));
+            if (isRun && (isApartOrSame(sources) && ...)) {
+                using T = typename D::Element;
+                combineRuns(op, Run<T>{dst.base}, width * height * count,
+                            Run<const T>{sources.operand.base}...);
+                return qorStatusOk;
+            }
+        }
+        const bool allApart = (apart(sources) && ...);
+        withKnownExtent(width, height, [&](auto columns, auto rows) {
+            if (adjacentRows)
+                combineStrided(op, dst, area(columns, rows), Fixed<1>(), allApart, count,
+                               sources...);
+            else
+                combineStrided(op, dst, columns, rows, allApart, count, sources...);
+        });
+    }
+    return qorStatusOk;
+}
+
+} // namespace qorm::elementwise

@@ -1,0 +1,6 @@
+// Entry functions: sums of two vectors, or of a vector and a constant.
+#include "elementwise/vector_sums.h"
+#include "frame/entries.h"
+#include "qorm/add.h"
+
+#include "elementwise/qormadd_v.def"

@@ -1,0 +1,6 @@
+// Entry functions: sums of arrays of vectors and vectors, arrays or constants.
+#include "elementwise/vector_sums.h"
+#include "frame/entries.h"
+#include "qorm/add.h"
+
+#include "elementwise/qormadd_va.def"

@@ -1,0 +1,6 @@
+// Fan-out drivers: sums of arrays of vectors and vectors, arrays or constants.
+#include "elementwise/vector_sums.h"
+#include "frame/drivers.h"
+#include "qorm/add.h"
+
+#include "elementwise/qormadd_va.def"

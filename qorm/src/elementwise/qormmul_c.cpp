@@ -1,0 +1,6 @@
+// Entry functions: products of a matrix or a vector and a constant.
+#include "elementwise/scaling.h"
+#include "frame/entries.h"
+#include "qorm/mul.h"
+
+#include "elementwise/qormmul_c.def"

@@ -1,0 +1,6 @@
+// Fan-out drivers: products of an array and a constant.
+#include "elementwise/scaling.h"
+#include "frame/drivers.h"
+#include "qorm/mul.h"
+
+#include "elementwise/qormmul_ca.def"

@@ -1,0 +1,6 @@
+// Cores: products of an array and a constant.
+#include "elementwise/scaling.h"
+#include "frame/cores.h"
+#include "qorm/mul.h"
+
+#include "elementwise/qormmul_ca.def"

@@ -1,0 +1,6 @@
+// Cores: differences of arrays of vectors and vectors, arrays or constants.
+#include "elementwise/vector_sums.h"
+#include "frame/cores.h"
+#include "qorm/sub.h"
+
+#include "elementwise/qormsub_va.def"

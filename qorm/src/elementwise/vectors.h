@@ -1,0 +1,62 @@
+// What the vector forms of the elementwise families share.
+#pragma once
+
+#include "elementwise/combine.h"
+#include "frame/entry.h"
+#include "frame/loaded.h"
+
+namespace qorm::elementwise {
+
+using VectorMeasure = std::uint32_t(std::uint32_t len, std::uint32_t count);
+
+// What a call reads and writes, in elements.
+inline std::uint32_t measureOfTwo(std::uint32_t len, std::uint32_t c) {
+    return 2 * len * c;
+}
+inline std::uint32_t measureWithSingle(std::uint32_t len, std::uint32_t c) {
+    return len * (2 * c + 1);
+}
+inline std::uint32_t measureOfThree(std::uint32_t len, std::uint32_t c) {
+    return 3 * len * c;
+}
+
+constexpr CheckOrder usualChecks = {Check::null, Check::count, Check::size, Check::stride,
+                                    Check::shift};
+
+// The forms on single vectors, or single matrices, have no count.
+constexpr CheckOrder checksOfSingles = {Check::null, Check::size, Check::stride, Check::shift};
+
+// Whether a single vector is known to lie where nothing is written. Lists are not looked through.
+template <class S, class D>
+bool isSurelyApart(const S& source, const D& dst, std::ptrdiff_t len, std::ptrdiff_t count) {
+    if constexpr (D::layout == Layout::L)
+        return false;
+    else
+        return areApart(spansOf(source.operand, 1, len), spansOf(dst, 1, len), count);
+}
+
+// combine() of two vectors. Where a path of its own holds a single vector for all objects, results
+// may be written over it; elsewhere it is read again for each object.
+template <bool holdsSingle, class Op, class D, class A, class B>
+qorStatus combineVectors(const Op& op, const D& dst, Size len, Count count, const A& a,
+                         const B& b) {
+    using T = typename D::Element;
+    const auto combineAll = [&](const auto& first, const auto& second) {
+        return combine(op, dst, len, Size(1), count, first, second);
+    };
+    if constexpr (holdsSingle && isArray(A::kind) != isArray(B::kind)) {
+        constexpr bool firstIsSingle = isArray(B::kind);
+        const auto& single = std::get < firstIsSingle ? 0 : 1 > (std::tie(a, b));
+        if (isUnrolled(len.value) && !isSurelyApart(single, dst, len.value, count.value)) {
+            const HeldVector<T> vector(single.operand, len.value);
+            const auto held = sourceOf<Kind::v>(vector.operand());
+            if constexpr (firstIsSingle)
+                return combineAll(held, b);
+            else
+                return combineAll(a, held);
+        }
+    }
+    return combineAll(a, b);
+}
+
+} // namespace qorm::elementwise

@@ -1,0 +1,352 @@
+// Products of matrices, as stored or transposed, and column vectors: y(i) = Σₖ A(i,k)·x(k).
+//
+// Sums run over ascending k. Squares of 3 to 6 begin with the first product, read all of the vector
+// before they write, and write each sum once; other shapes begin with +0, which they write first. One
+// member sums otherwise: 32f, one matrix with an array of vectors, contiguous by strides.
+#pragma once
+
+#include "frame/entry.h"
+#include "frame/loaded.h"
+#include "frame/overlap.h"
+#include "frame/summation.h"
+
+// name, the kinds of the matrix, the vector and the destination, type, layout
+#define QORM_MATRIX_VECTOR(name, matrix, vector, result, type, layout) \
+    QORM_FUNCTION_##result##_##layout( \
+        name, \
+        (qorm::products::formOfMatrixVector(qorm::Kind::matrix, qorm::Kind::vector, \
+                                            qorm::Layout::layout)), \
+        (qorm::products::multiplyVectors<qorm::Kind::matrix, qorm::Kind::vector>), \
+        QORM_MATRIX_VECTOR_ARGUMENTS, QORM_TYPE_##type, matrix, vector, result)
+
+#define QORM_MATRIX_VECTOR_ARGUMENTS(PART, access, T, matrix, vector, result) \
+    PART##_##matrix##_##access(const T, Src1, src1), PART##_width_height_1, \
+        PART##_##vector##_##access(const T, Src2, src2), PART##_len(src2), \
+        PART##_##result##_##access(T, Dst, dst) PART##_count_##result
+
+namespace qorm::products {
+
+using MatrixVectorMeasure = std::uint32_t(std::uint32_t width, std::uint32_t height,
+                                          std::uint32_t len, std::uint32_t count);
+
+// What a call reads and writes, in elements. A transposed matrix has width and height exchanged.
+template <bool transposed>
+std::uint32_t measureWithOneVector(std::uint32_t w, std::uint32_t h, std::uint32_t /*len*/,
+                                   std::uint32_t c) {
+    return transposed ? w * (h + 1) * c + h : h * (w + 1) * c + w;
+}
+inline std::uint32_t measureWithOneMatrix(std::uint32_t w, std::uint32_t h, std::uint32_t /*len*/,
+                                          std::uint32_t c) {
+    return w * h + (w + h) * c;
+}
+inline std::uint32_t measureOfArrays(std::uint32_t w, std::uint32_t h, std::uint32_t /*len*/,
+                                     std::uint32_t c) {
+    return (w * (h + 1) + h) * c;
+}
+
+template <bool transposed>
+bool vectorFits(std::uint32_t w, std::uint32_t h, std::uint32_t len, std::uint32_t /*count*/) {
+    return (transposed ? h : w) == len;
+}
+
+constexpr Form<MatrixVectorMeasure> formOfMatrixVector(Kind matrix, Kind vector, Layout layout) {
+    const bool transposed = isTransposed(matrix);
+    const std::int32_t general = layout == Layout::P ? 9217 : 18433;
+    return {.checks = {Check::null, Check::count, Check::size, Check::match, Check::stride,
+                       Check::shift},
+            .measure = !isArray(vector)
+                           ? (transposed ? measureWithOneVector<true> : measureWithOneVector<false>)
+                       : isArray(matrix) ? measureOfArrays
+                                         : measureWithOneMatrix,
+            .contiguousThreshold = layout == Layout::S ? 36865 : general,
+            .generalThreshold = general,
+            .sizesMatch = transposed ? vectorFits<true> : vectorFits<false>};
+}
+
+// The matrices of a call as the shape's letter reads them. What is added to the products, if anything,
+// is `addend`.
+template <Kind matrixKind, class Matrix, class X, class Addend, class D>
+struct Systems {
+    static constexpr Kind kind = matrixKind;
+    using T = typename D::Element;
+
+    Matrix matrix;
+    Extent stored;
+    X x;
+    Addend addend;
+    D dst;
+
+    std::ptrdiff_t rows() const { return isTransposed(kind) ? stored.columns : stored.rows; }
+    std::ptrdiff_t terms() const { return isTransposed(kind) ? stored.rows : stored.columns; }
+    auto matrixOf(std::ptrdiff_t n) const { return asRead<kind>(matrix.object(n, stored.columns)); }
+};
+
+// In place of an addend.
+struct Nothing {};
+
+template <class Addend>
+inline constexpr bool isAdded = !std::is_same_v<Addend, Nothing>;
+
+// One object, exactly as the contract tells where operands overlap. With an addend all sums are held,
+// and written together.
+template <class S, class N>
+void multiplyOneKnown(const S& s, std::ptrdiff_t object, N n) {
+    using T = typename S::T;
+    const auto a = s.matrixOf(object);
+    const auto y = vectorOf(s.dst, object, n);
+    LoadedVector<T, N> x;
+    x.load(s.x, object, 1, n);
+    T sums[n];
+    for (std::ptrdiff_t i = 0; i < n; ++i) {
+        sums[i] = sumOfChain<true, T>([&](std::ptrdiff_t k) { return T(a(i, k)) * x(k); }, n);
+        if constexpr (isAdded<decltype(s.addend)>)
+            sums[i] = sums[i] + T(vectorOf(s.addend, object, n)(i));
+        else
+            y(i) = sums[i];
+    }
+    if constexpr (isAdded<decltype(s.addend)>) {
+        for (std::ptrdiff_t i = 0; i < n; ++i) y(i) = sums[i];
+    }
+}
+
+template <class S>
+void multiplyOne(const S& s, std::ptrdiff_t object) {
+    using T = typename S::T;
+    const auto a = s.matrixOf(object);
+    const auto x = vectorOf(s.x, object, s.terms());
+    const auto y = vectorOf(s.dst, object, s.rows());
+    for (std::ptrdiff_t i = 0; i < s.rows(); ++i) {
+        T sum(0);
+        y(i) = sum;
+        for (std::ptrdiff_t k = 0; k < s.terms(); ++k) {
+            sum = sum + T(a(i, k)) * T(x(k));
+            y(i) = sum;
+        }
+        if constexpr (isAdded<decltype(s.addend)>)
+            y(i) = sum + T(vectorOf(s.addend, object, s.rows())(i));
+    }
+}
+
+// The same where operands are apart: with a row in each lane.
+template <class S>
+void multiplyOneApart(const S& s, std::ptrdiff_t object) {
+    using T = typename S::T;
+    using V = Pack<T>;
+    constexpr int lanes = laneCount<V>;
+    const auto a = s.matrix.object(object, s.stored.columns);
+    const auto x = vectorOf(s.x, object, s.terms());
+    const auto y = vectorOf(s.dst, object, s.rows());
+    for (std::ptrdiff_t i = 0; i < s.rows(); i += lanes) {
+        const int live = static_cast<int>(std::min<std::ptrdiff_t>(lanes, s.rows() - i));
+        V sum(T(0));
+        if constexpr (isTransposed(S::kind)) {
+            for (std::ptrdiff_t k = 0; k < s.terms(); ++k) {
+                const T* const row = a(k, i).address();
+                sum = sum + (live == lanes ? loadRun(row) : loadRun(row, live)) * V(T(x(k)));
+            }
+        } else {
+            for (std::ptrdiff_t k = 0; k < s.terms(); k += lanes) {
+                const int columns =
+                    static_cast<int>(std::min<std::ptrdiff_t>(lanes, s.terms() - k));
+                V column[lanes];
+                loadRuns<T>([&](int lane) { return a(i + std::min(lane, live - 1), k).address(); },
+                            columns, [&](std::ptrdiff_t j) -> auto& { return column[j].lanes[0]; });
+                for (int j = 0; j < columns; ++j) sum = sum + column[j] * V(T(x(k + j)));
+            }
+        }
+        for (int lane = 0; lane < live; ++lane) {
+            T result = laneOf(sum, lane);
+            if constexpr (isAdded<decltype(s.addend)>)
+                result = result + T(vectorOf(s.addend, object, s.rows())(i + lane));
+            y(i + lane) = result;
+        }
+    }
+}
+
+// Objects that are too large for lanes, and single ones.
+template <class S>
+void multiplyLarge(const S& s, std::ptrdiff_t first, std::ptrdiff_t count) {
+    using Matrix = decltype(s.matrix);
+    constexpr std::ptrdiff_t leastRows = 4;
+    if constexpr (Matrix::hasContiguousRows) {
+        const auto isApart = [&](const auto& operand, Extent extent) {
+            return [reads = spansOf(operand, extent.rows, extent.columns),
+                    writes = spansOf(s.dst, 1, s.rows())](std::ptrdiff_t n) {
+                return !overlap(reads(n), writes(n));
+            };
+        };
+        const auto matrixIsApart = isApart(s.matrix, s.stored);
+        const auto vectorIsApart = isApart(s.x, {1, s.terms()});
+        const auto addendIsApart = [&] {
+            if constexpr (isAdded<decltype(s.addend)>)
+                return isApart(s.addend, {1, s.rows()});
+            else
+                return [](std::ptrdiff_t) { return true; };
+        }();
+        for (std::ptrdiff_t n = first; n < first + count; ++n) {
+            if (s.rows() >= leastRows && matrixIsApart(n) && vectorIsApart(n) && addendIsApart(n))
+                multiplyOneApart(s, n);
+            else
+                multiplyOne(s, n);
+        }
+    } else {
+        for (std::ptrdiff_t n = first; n < first + count; ++n) multiplyOne(s, n);
+    }
+}
+
+// Objects first .. first + live - 1, an object in each lane. `inPairs` is how sums are made.
+template <class V, bool inPairs, class S, class Rows, class Terms>
+[[gnu::flatten]] qorStatus multiplyBlock(const S s, std::ptrdiff_t first, int live, Rows rows,
+                                         Terms terms) {
+    using T = typename S::T;
+    if constexpr (laneCount<V> == 1 && hasOwnPath<Rows> && !inPairs) {
+        multiplyOneKnown(s, first, rows);
+    } else if constexpr (laneCount<V> == 1 && !hasOwnPath<Rows>) {
+        multiplyOne(s, first);
+    } else {
+        const auto width = isTransposed(S::kind) ? rows : terms;
+        const auto height = isTransposed(S::kind) ? terms : rows;
+        constexpr bool matrixIsArray = decltype(s.matrix)::holdsArray;
+        using X = std::conditional_t<decltype(s.x)::holdsArray, V, T>;
+        Loaded<V, decltype(width)> matrices(width);
+        if constexpr (matrixIsArray) {
+            loadLanes(s.matrix, first, live, height, width, matrices.matrix());
+        }
+        LoadedVector<X, Terms> x;
+        x.load(s.x, first, std::is_same_v<X, T> ? 1 : live, terms);
+        const auto a = [&] {
+            if constexpr (matrixIsArray)
+                return asRead<S::kind>(matrices.matrix());
+            else
+                return s.matrixOf(0);
+        }();
+        const auto element = [&](std::ptrdiff_t i, std::ptrdiff_t k) {
+            if constexpr (matrixIsArray)
+                return V(a(i, k));
+            else
+                return V(T(a(i, k)));
+        };
+        LoadedVector<V, Rows> sums;
+        for (std::ptrdiff_t i = 0; i < rows; ++i) {
+            const auto p = [&](std::ptrdiff_t k) { return element(i, k) * V(x(k)); };
+            if constexpr (inPairs && largestSize<Terms> > 3)
+                sums(i) = sumOfPairs<V>(p, terms);
+            else
+                sums(i) = sumOfChain<hasOwnPath<Rows>, V>(p, terms);
+        }
+        if constexpr (isAdded<decltype(s.addend)>) {
+            LoadedVector<V, Rows> addends;
+            addends.load(s.addend, first, live, rows);
+            for (std::ptrdiff_t i = 0; i < rows; ++i) sums(i) = sums(i) + addends(i);
+        }
+        sums.store(s.dst, first, live, rows);
+    }
+    return qorStatusOk;
+}
+
+template <class S>
+auto guardOf(const S& s, std::ptrdiff_t count) {
+    constexpr int lanes = laneCount<Pack<typename S::T>>;
+    const bool known = s.rows() == s.terms() && isUnrolled(s.rows());
+    const Sharing sharing = known ? Sharing::any : Sharing::none;
+    const Extent result = {1, s.rows()};
+    const auto guard = [&](Sharing shared, const auto& operand, Extent extent) {
+        return readAheadOf(shared, operand, extent, s.dst, result, count, lanes);
+    };
+    const auto matrix = guard(Sharing::none, s.matrix, s.stored);
+    const auto x = guard(sharing, s.x, {1, s.terms()});
+    if constexpr (isAdded<decltype(s.addend)>)
+        return AllOf(matrix, x, guard(sharing, s.addend, result));
+    else
+        return AllOf(matrix, x);
+}
+
+template <bool inPairs = false, class S>
+qorStatus multiplySystems(const S& s, std::ptrdiff_t count) {
+    using T = typename S::T;
+    constexpr bool holdsArray = decltype(s.dst)::holdsArray;
+    if constexpr (holdsArray) {
+        if (std::max(s.rows(), s.terms()) <= mostLaneSize) {
+            const auto guard = guardOf(s, count);
+            return withKnownSquare(s.terms(), s.rows(), [&](auto terms, auto rows) {
+                if constexpr (inPairs && !hasOwnPath<decltype(rows)>)
+                    return qorStatus{qorStatusOk};
+                else
+                    return inLanes<Pack<T>>(
+                        guard, count, [&]<class V>(std::ptrdiff_t first, int live) {
+                            return multiplyBlock<V, inPairs>(s, first, live, rows, terms);
+                        });
+            });
+        }
+    } else {
+        if (s.rows() == s.terms() && isUnrolled(s.rows())) {
+            return withStaticSize(s.rows(), [&](auto n) {
+                if constexpr (isFixed<decltype(n)>) multiplyOneKnown(s, 0, n);
+                return qorStatus{qorStatusOk};
+            });
+        }
+    }
+    multiplyLarge(s, 0, count);
+    return qorStatusOk;
+}
+
+inline bool areMultiplesOf16(std::initializer_list<std::uintptr_t> numbers) {
+    return std::all_of(numbers.begin(), numbers.end(),
+                       [](std::uintptr_t number) { return number % 16 == 0; });
+}
+
+// The sums of one matrix, 32f, with an array of vectors, both contiguous by strides, which depend on
+// addresses and length.
+template <class S>
+qorStatus multiplyByAlignment(const S& s, std::ptrdiff_t count) {
+    const auto address = [](const float* p) { return reinterpret_cast<std::uintptr_t>(p); };
+    const auto stride = [](std::int32_t bytes) { return static_cast<std::uintptr_t>(bytes); };
+    const bool aligned =
+        areMultiplesOf16({address(s.matrix.base), stride(s.matrix.stride1), address(s.x.base),
+                          stride(s.x.stride0), address(s.dst.base), stride(s.dst.stride0)});
+    const std::ptrdiff_t terms = s.terms();
+    if (s.rows() == terms && isUnrolled(terms)) {
+        return aligned && terms > 3 ? multiplySystems<true>(s, count) : multiplySystems(s, count);
+    }
+    if (terms < (aligned ? termsOfBlock : leastForBlocks<float>)) return multiplySystems(s, count);
+    for (std::ptrdiff_t n = 0; n < count; ++n) {
+        const auto a = s.matrixOf(n);
+        const float* const x = vectorOf(s.x, n, terms)(0).address();
+        const auto y = vectorOf(s.dst, n, s.rows());
+        for (std::ptrdiff_t i = 0; i < s.rows(); ++i) {
+            const float* const row = a(i, 0).address();
+            y(i) = 0;
+            y(i) = aligned ? sumOfBlocks(row, x, terms, 0) : sumOfProducts(row, x, terms);
+        }
+    }
+    return qorStatusOk;
+}
+
+template <Kind matrixKind, Kind vectorKind, class Matrix, class X, class D>
+qorStatus multiplyVectors(const Matrix& matrix, Size width, Size height, const X& x, Size /*len*/,
+                          const D& dst, Count countOf = Count(1)) {
+    using T = typename D::Element;
+    const Extent stored = {height.value, width.value};
+    const std::ptrdiff_t count = countOf.value;
+    const auto multiply = [&](const auto& vectors) {
+        const Systems<matrixKind, Matrix, std::remove_cvref_t<decltype(vectors)>, Nothing, D>
+            systems = {matrix, stored, vectors, {}, dst};
+        constexpr bool contiguous =
+            Matrix::hasContiguousRows && X::hasContiguousRows && D::hasContiguousRows;
+        if constexpr (matrixKind == Kind::m && vectorKind == Kind::va && sizeof(T) == 4 &&
+                      D::layout == Layout::S && contiguous) {
+            return multiplyByAlignment(systems, count);
+        } else {
+            return multiplySystems(systems, count);
+        }
+    };
+    // By strides, squares of 3 to 6 read a single vector once for all objects.
+    if constexpr (D::layout == Layout::S && D::holdsArray && !X::holdsArray) {
+        if (stored.rows == stored.columns && isUnrolled(stored.rows)) {
+            return multiply(HeldVector<T>(x, stored.rows).operand());
+        }
+    }
+    return multiply(x);
+}
+
+} // namespace qorm::products

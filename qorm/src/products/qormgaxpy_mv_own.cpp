@@ -1,0 +1,6 @@
+// Cores: a matrix times a vector, plus a vector.
+#include "frame/cores.h"
+#include "products/gaxpy.h"
+#include "qorm/gaxpy.h"
+
+#include "products/qormgaxpy_mv.def"

@@ -1,0 +1,6 @@
+// Fan-out drivers: products of each matrix of an array and a vector.
+#include "frame/drivers.h"
+#include "products/matrix_vector.h"
+#include "qorm/mul.h"
+
+#include "products/qormmul_mav.def"

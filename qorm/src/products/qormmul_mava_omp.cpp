@@ -1,0 +1,6 @@
+// Fan-out drivers: products of arrays of matrices and of vectors.
+#include "frame/drivers.h"
+#include "products/matrix_vector.h"
+#include "qorm/mul.h"
+
+#include "products/qormmul_mava.def"

@@ -1,0 +1,6 @@
+// Cores: products of arrays of matrices and of vectors.
+#include "frame/cores.h"
+#include "products/matrix_vector.h"
+#include "qorm/mul.h"
+
+#include "products/qormmul_mava.def"

@@ -1,0 +1,6 @@
+// Cores: products of a matrix and a vector.
+#include "frame/cores.h"
+#include "products/matrix_vector.h"
+#include "qorm/mul.h"
+
+#include "products/qormmul_mv.def"

@@ -1,0 +1,6 @@
+// Fan-out drivers: products of a matrix and each vector of an array.
+#include "frame/drivers.h"
+#include "products/matrix_vector.h"
+#include "qorm/mul.h"
+
+#include "products/qormmul_mva.def"

@@ -1,0 +1,6 @@
+// Cores: length of a vector.
+#include "frame/cores.h"
+#include "qorm/l2norm.h"
+#include "vectors/norm.h"
+
+#include "vectors/qorml2norm_v.def"

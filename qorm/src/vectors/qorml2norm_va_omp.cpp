@@ -1,0 +1,6 @@
+// Fan-out drivers: lengths of the vectors of an array.
+#include "frame/drivers.h"
+#include "qorm/l2norm.h"
+#include "vectors/norm.h"
+
+#include "vectors/qorml2norm_va.def"

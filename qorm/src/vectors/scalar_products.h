@@ -1,0 +1,127 @@
+// Scalar products of vectors in lanes, and of vectors with themselves.
+#pragma once
+
+#include "frame/loaded.h"
+#include "frame/overlap.h"
+#include "frame/summation.h"
+
+namespace qorm::vectors {
+
+// How lengths 5 and 6 are summed: as all others, with the two last products first, or with four in
+// pairs.
+enum class Order { chain, lastFirst, pairs };
+
+// In place of a second vector: the first.
+struct Itself {};
+
+template <class B>
+inline constexpr bool isItself = std::is_same_v<B, Itself>;
+
+template <class B>
+constexpr bool isArrayOfVectors() {
+    if constexpr (isItself<B>)
+        return true;
+    else
+        return B::holdsArray;
+}
+
+template <Order order, class V, class Term, class N>
+[[gnu::always_inline]] inline V sumOf(const Term& p, N len) {
+    if constexpr (!hasOwnPath<N>) {
+        return sumOfChain<false, V>(p, len);
+    } else if constexpr (order == Order::pairs && len > 3) {
+        return sumOfPairs<V>(p, len);
+    } else if constexpr (order == Order::lastFirst && len > 4) {
+        V sum = p(4);
+        if constexpr (len == 6) sum = sum + p(5);
+        for (std::ptrdiff_t k = 0; k < 4; ++k) sum = sum + p(k);
+        return sum;
+    } else {
+        return sumOfChain<true, V>(p, len);
+    }
+}
+
+// One object, where it lies.
+template <Order order, class A, class B, class N>
+auto productOfOne(const A& a, const B& b, std::ptrdiff_t object, N len) {
+    using T = std::remove_const_t<typename A::Element>;
+    const auto x = vectorOf(a, object, len);
+    if constexpr (isItself<B>) {
+        return sumOf<order, T>([&](std::ptrdiff_t k) { return T(x(k)) * T(x(k)); }, len);
+    } else {
+        const auto y = vectorOf(b, object, len);
+        return sumOf<order, T>([&](std::ptrdiff_t k) { return T(x(k)) * T(y(k)); }, len);
+    }
+}
+
+// `terms` elements of objects first .. first + live - 1 from element k on, and work(p) on their
+// products.
+template <class V, class A, class B, class N, class Work>
+[[gnu::always_inline]] inline void withProducts(const A& a, const B& b, std::ptrdiff_t first,
+                                                int live, std::ptrdiff_t k, N terms,
+                                                const Work& work) {
+    LoadedVector<V, N> x;
+    x.load(elementsFrom(a, k), first, live, terms);
+    if constexpr (isItself<B>) {
+        work([&](std::ptrdiff_t i) { return x(i) * x(i); });
+    } else {
+        using Y = std::conditional_t<B::holdsArray, V, LaneType<V>>;
+        LoadedVector<Y, N> y;
+        y.load(elementsFrom(b, k), first, B::holdsArray ? live : 1, terms);
+        work([&](std::ptrdiff_t i) { return x(i) * V(y(i)); });
+    }
+}
+
+template <Order order, class V, class A, class B, class N>
+[[gnu::always_inline]] inline V productsOfBlock(const A& a, const B& b, std::ptrdiff_t first,
+                                                int live, N len) {
+    V sum(0);
+    if constexpr (hasOwnPath<N>) {
+        withProducts<V>(a, b, first, live, 0, len,
+                        [&](const auto& p) { sum = sumOf<order, V>(p, len); });
+    } else {
+        for (std::ptrdiff_t k = 0; k < len; k += mostLaneSize) {
+            const std::ptrdiff_t terms = std::min<std::ptrdiff_t>(len - k, mostLaneSize);
+            withProducts<V>(a, b, first, live, k, terms, [&](const auto& p) {
+                for (std::ptrdiff_t i = 0; i < terms; ++i) sum = sum + p(i);
+            });
+        }
+    }
+    return sum;
+}
+
+template <Order order, class V, class A, class B, class T, class N, class Finish>
+[[gnu::flatten]] qorStatus finishBlock(const A a, const B b, const Plain<T> dst,
+                                       std::ptrdiff_t first, int live, N len, Finish finish) {
+    if constexpr (laneCount<V> == 1) {
+        dst.object(first)(0) = finish(productOfOne<order>(a, b, first, len));
+    } else {
+        V result = finish(productsOfBlock<order, V>(a, b, first, live, len));
+        storeLanes(dst, first, live, Fixed<1>(), PackRun<V>{&result});
+    }
+    return qorStatusOk;
+}
+
+// finish(product) of each object to dst.
+template <Order order, class A, class B, class T, class Finish>
+qorStatus productsInLanes(const A& a, const B& b, const Plain<T>& dst, std::ptrdiff_t len,
+                          std::ptrdiff_t count, const Finish& finish) {
+    const auto guardOf = [&](const auto& vectors) {
+        ReadAhead guard(spansOf(vectors, 1, len), spansOf(dst), count);
+        if (!canLeaveOut(vectors, len)) guard.allowNever();
+        return guard;
+    };
+    const auto run = [&](const auto& guard) {
+        return withStaticSize(len, [&](auto n) {
+            return inLanes<Pack<T>>(guard, count, [&]<class V>(std::ptrdiff_t first, int live) {
+                return finishBlock<order, V>(a, b, dst, first, live, n, finish);
+            });
+        });
+    };
+    if constexpr (isItself<B>)
+        return run(guardOf(a));
+    else
+        return run(AllOf(guardOf(a), guardOf(b)));
+}
+
+} // namespace qorm::vectors
