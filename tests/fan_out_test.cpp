@@ -22,7 +22,7 @@ struct Thresholds {
     int standard, standardGeneral, pointers, list, listGeneral;
 };
 
-// Of families, or of single shapes of theirs.
+// Of single shapes, or of all others of a family.
 struct Row {
     std::string_view names;
     Thresholds of32f;
@@ -38,8 +38,20 @@ constexpr Thresholds products = {36865, 18433, 9217, 18433, 18433};
 constexpr Thresholds rectangles = {2801, 2801, 1801, 1801, 1801};
 
 const Row rows[] = {
+    {"Sub_vva CrossProduct_vva",
+     {20001, 20001, 20001, 40001, 40001},
+     {20001, 20001, never, 20001, 20001}},
+    {"Add_vac Add_vav Add_vava Sub_vac Sub_cva Sub_vav Sub_vava CrossProduct",
+     {20001, 20001, 20001, 40001, 40001},
+     all(20001)},
     {"Add Sub", sums, sums},
+    {"Saxpy", all(40001), all(40001)},
+    {"LComb", {20001, 20001, 20001, 40001, 20001}, all(20001)},
+    {"Mul_mac Mul_tac", {35001, 35001, 17001, 35001, 15001}, {35001, 35001, 17001, 35001, 35001}},
     {"Mul", products, products},
+    {"Gaxpy", all(5001), all(5001)},
+    {"DotProduct", {40001, 20001, 20001, 40001, 20001}, {40001, 20001, 40001, 40001, 20001}},
+    {"L2Norm", all(20001), all(20001)},
     {"Det Invert EigenValuesSym", {20001, 20001, 20001, 40001, 20001}, all(20001)},
     {"EigenValuesVectorsSym LUBackSubst", all(1701), all(1701)},
     {"LUDecomp", {never, never, never, 40001, 20001}, all(never)},
@@ -76,10 +88,12 @@ bool isDriver(const Function& function) {
 
 // Of the result, where sources have sizes of their own; upright for factors with as many rows.
 Sizes sizesOf(const Function& function, int width, int height, int count) {
-    if (function.operation == "Mul") return productSizes(function, height, 4, width, count);
+    if (function.hasSize("src1Width")) {
+        return productSizes(function, height, function.operands == "mm" ? 4 : width, width, count);
+    }
     if (function.hasSize("widthHeight")) return {{"widthHeight", width}, {"count", count}};
     if (function.operation.starts_with("QR") && width > height) std::swap(width, height);
-    return {{"width", width}, {"height", height}, {"count", count}};
+    return {{"len", width * height}, {"width", width}, {"height", height}, {"count", count}};
 }
 
 // Matrices of a few shapes, and wide ones of a power of two, whose multiples some thresholds are.
@@ -98,14 +112,15 @@ std::vector<std::pair<int, int>> shapesFor(const Function& function) {
 }
 
 // The measure of a function's calls with the given sizes, by their count: the elements of all
-// operands, but for four families.
+// operands, but for some families.
 auto measureOf(const Function& function, const Sizes& sizes) {
     std::int64_t single = 0;
     std::int64_t perObject = 0;
     for (const Parameter& parameter : function.parameters) {
         const bool isCounted = parameter.kind == Parameter::source ||
                                parameter.kind == Parameter::result ||
-                               parameter.kind == Parameter::results;
+                               (parameter.kind == Parameter::results &&
+                                !contains("DotProduct L2Norm", function.operation));
         if (!isCounted) continue;
         (parameter.array ? perObject : single) +=
             std::int64_t{extentOf(parameter.rows, sizes)} * extentOf(parameter.columns, sizes);
@@ -114,6 +129,16 @@ auto measureOf(const Function& function, const Sizes& sizes) {
     if (function.operation == "Det") perObject = n();
     if (function.operation == "Invert") perObject = 2 * n();
     if (contains("LUDecomp CholeskyDecomp", function.operation)) perObject = n() * n();
+    if (function.operation == "Gaxpy") single = 0;
+    if (function.isOneOf("Add Sub", "vac")) single = sizes.at("len");
+    if (function.isOneOf("Sub", "cva")) {
+        single = 1;
+        perObject = 2;
+    }
+    if (function.operation == "CrossProduct") {
+        single /= 3;
+        perObject /= 3;
+    }
     return [=](int count) { return single + perObject * count; };
 }
 
@@ -153,7 +178,8 @@ int rowOfColumn(int n, int j, int height, bool turned) {
 void fill(const Call& call, bool turned = false) {
     for (const Operand& operand : call.operands()) {
         operand.forEachElement([&](int n, int i, int j) {
-            if (operand.parameter.kind == Parameter::source) {
+            const auto kind = operand.parameter.kind;
+            if (kind == Parameter::source || kind == Parameter::value) {
                 const int row = rowOfColumn(n, j, operand.readRows(), turned);
                 operand.setNumber(n, i, j, i == row ? 2 : 0);
             } else if (operand.parameter.name == "SrcIndex") {
@@ -221,8 +247,10 @@ TEST_P(FanOut, beginsAtTheThreshold) {
 
 // Large enough for every function to spread, and one object more than a multiple of 3.
 Sizes largeSizes(const Function& function) {
-    const bool countsElements = !contains("Det Invert", function.operation);
-    return countsElements ? sizesOf(function, 76, 76, 7) : sizesOf(function, 6, 6, 6700);
+    if (contains("Det Invert", function.operation)) return sizesOf(function, 6, 6, 6700);
+    const bool countsObjects =
+        function.isOneOf("Mul Gaxpy Sub", "mva tva cva") || function.operation == "CrossProduct";
+    return countsObjects ? sizesOf(function, 3, 3, 20002) : sizesOf(function, 76, 76, 7);
 }
 
 TEST_P(FanOut, givesTheFirstThreadsTheRemainder) {
@@ -365,12 +393,13 @@ TEST(FanOutInside, aParallelRegionDoesOneShare) {
     for (int n = 0; n < 7; ++n) EXPECT_EQ(call.result().isUntouched(n), n >= 2) << n;
 }
 
-TEST(FanOutOfFactors, hasEntriesThatNeverCallTheirDrivers) {
+TEST(FanOutNever, ofEntriesThatDoNotCallTheirDrivers) {
     const ThreadCount setting(3);
     for (const Function& function : allFunctions()) {
         if (!function.array || fansOut(function)) continue;
-        Call call(function, sizesOf(function, 6, 6, 6700), packed, 12);
-        expectDone(call, 1, 6700, false);
+        const Sizes sizes = largeSizes(function);
+        Call call(function, sizes, packed, 12);
+        expectDone(call, 1, sizes.at("count"), false);
     }
 }
 

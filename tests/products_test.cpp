@@ -1,5 +1,6 @@
 // Products of matrices, bit by bit, wherever the operands lie. Where they overlap, what comes out
 // tells the order of all reads and writes.
+#include "harness/inputs.h"
 #include "harness/placements.h"
 #include "harness/thread_count.h"
 
@@ -7,7 +8,6 @@
 
 #include <algorithm>
 #include <gtest/gtest.h>
-#include <limits>
 
 namespace {
 
@@ -19,33 +19,6 @@ struct Shape {
     int inner;
     int columns;
 };
-
-// Ordinary numbers of several magnitudes, which some calls mix with signed zeros, with numbers that
-// overflow and underflow, or with everything.
-template <class T>
-T randomValue(Random& random, std::uint64_t mix) {
-    using Limits = std::numeric_limits<T>;
-    static constexpr T special[] = {T(0),
-                                    -T(0),
-                                    T(1),
-                                    -T(1),
-                                    Limits::denorm_min(),
-                                    -Limits::min(),
-                                    Limits::epsilon(),
-                                    Limits::max(),
-                                    Limits::lowest(),
-                                    Limits::infinity(),
-                                    -Limits::infinity(),
-                                    Limits::quiet_NaN()};
-    static constexpr struct {
-        std::uint64_t kinds;
-        std::uint64_t in64;
-    } mixes[] = {{1, 0}, {2, 48}, {9, 32}, {12, 4}};
-    const auto [kinds, in64] = mixes[mix % std::size(mixes)];
-    const std::uint64_t bits = random();
-    if (bits % 64 < in64) return special[(bits >> 8) % kinds];
-    return static_cast<T>(static_cast<std::int32_t>(bits >> 32)) / static_cast<T>(1 << bits % 30);
-}
 
 // Where an operand's elements lie, as the function sees it: rows x columns as read, in stored rows
 // that it takes to be `width` long.
@@ -134,12 +107,6 @@ int formulaSize(const Function& function, const Shape& shape) {
     return rows == inner && rows == columns && rows >= 3 && rows <= 6 ? rows : 0;
 }
 
-bool isContiguous(const Call& call) {
-    return std::all_of(call.operands().begin(), call.operands().end(), [](const Operand& operand) {
-        return operand.layout != Layout::P && operand.stride2 == operand.elementSize;
-    });
-}
-
 Read readOfFirst(const Function& function, const Operand& first, int size) {
     if (size == 0 || function.layout != Layout::P) return Read::asUsed;
     return first.parameter.array ? Read::aheadOfObject : Read::aheadOfCall;
@@ -168,7 +135,7 @@ void expectProducts(const Call& call, const Function& function, const Shape& sha
     const int width2 = b.parameter.transposed ? shape.inner : shape.columns;
     Source<T> first(Matrix<T>(a, width1, rows, inner), readOfFirst(function, a, size));
     Source<T> second(Matrix<T>(b, width2, inner, columns),
-                     readOfSecond(function, a, b, size, isContiguous(call)));
+                     readOfSecond(function, a, b, size, call.isContiguous()));
     const Matrix<T> destination(product, size > 0 ? width2 : shape.columns, rows, columns);
     for (int n = 0; n < count; ++n) {
         first.begin(n);
@@ -194,7 +161,7 @@ std::string faultOf(Call& call, const Function& function, const Shape& shape, in
     for (const char* name : {"Src1", "Src2"}) {
         const Operand& source = call.operand(name);
         source.forEachElement(
-            [&](int n, int i, int j) { source.set(n, i, j, randomValue<T>(random, seed)); });
+            [&](int n, int i, int j) { source.set(n, i, j, mixedValue<T>(random, seed)); });
     }
     expectProducts<T>(call, function, shape, count);
     const std::int32_t status = call.run(library);
@@ -383,7 +350,7 @@ TEST_P(Products, onThreads) {
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(, Products, testing::ValuesIn(functionsOf("Mul")),
+INSTANTIATE_TEST_SUITE_P(, Products, testing::ValuesIn(functionsOf("Mul", "mm")),
                          [](const auto& tested) { return tested.param.name; });
 
 } // namespace

@@ -137,7 +137,7 @@ TEST_P(Sums, onThreads) {
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(, Sums, testing::ValuesIn(functionsOf("Add Sub")),
+INSTANTIATE_TEST_SUITE_P(, Sums, testing::ValuesIn(functionsOf("Add Sub", "mm")),
                          [](const auto& tested) { return tested.param.name; });
 
 } // namespace

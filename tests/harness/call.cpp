@@ -267,9 +267,20 @@ Value Call::valueOf(const Argument& argument) const {
         return {.number = operand.stride2};
     case Argument::shift:
         return {.number = operand.shift};
+    case Argument::value: {
+        Value value = {};
+        std::memcpy(&value, operand.base, static_cast<std::size_t>(operand.elementSize));
+        return value;
+    }
     default:
         return {.pointer = operand.table ? operand.table->begin() : operand.base};
     }
+}
+
+bool Call::isContiguous() const {
+    return std::all_of(operands_.begin(), operands_.end(), [](const Operand& operand) {
+        return operand.layout != Layout::P && operand.stride2 == operand.elementSize;
+    });
 }
 
 std::int32_t Call::run(const Library& library) {

@@ -119,6 +119,9 @@ public:
     // Passes another value than that by which the memory was laid out.
     void claim(const std::string& size, int value) { sizes_[size] = value; }
 
+    // Whether the elements of each operand's rows lie side by side, as the layout tells it.
+    bool isContiguous() const;
+
     std::int32_t run(const Library& library);
 
     // The first element or other byte that is not what is expected, in words; empty if there is

@@ -12,7 +12,7 @@ namespace harness {
 namespace {
 
 struct Family {
-    std::string_view operations;
+    std::string_view operations; // "Det", or "Mul_mv" with operands of these kinds
     std::vector<Parameter> parameters;
     bool isProduct = false; // sizes are those of operands as stored, and the destination has none
 };
@@ -23,8 +23,9 @@ const std::vector<Family>& families() {
     static const std::string n = "widthHeight";
     static const std::string w = "width";
     static const std::string h = "height";
+    static const std::string len = "len";
     static const std::vector<Family> table = {
-        {"Add Sub",
+        {"Add_mm Sub_mm",
          {{source, "Src1", h, w},
           {source, "Src2", h, w},
           {result, "Dst", h, w},
@@ -41,7 +42,62 @@ const std::vector<Family>& families() {
           {result, "DstVectors", n, n},
           {results, "DstValues", one, n},
           {size, n}}},
-        {"Mul",
+        {"Add_vv Sub_vv",
+         {{source, "Src1", one, len},
+          {source, "Src2", one, len},
+          {result, "Dst", one, len},
+          {size, len}}},
+        {"Add_vc Sub_vc Sub_cv Mul_vc",
+         {{source, "Src", one, len},
+          {value, "val", one, one},
+          {result, "Dst", one, len},
+          {size, len}}},
+        {"Mul_mc",
+         {{source, "Src", h, w},
+          {value, "val", one, one},
+          {result, "Dst", h, w},
+          {size, w},
+          {size, h}}},
+        {"Saxpy",
+         {{source, "Src1", one, len},
+          {value, "val", one, one},
+          {source, "Src2", one, len},
+          {result, "Dst", one, len},
+          {size, len}}},
+        {"LComb",
+         {{source, "Src1", one, len},
+          {value, "val1", one, one},
+          {source, "Src2", one, len},
+          {value, "val2", one, one},
+          {result, "Dst", one, len},
+          {size, len}}},
+        {"DotProduct",
+         {{source, "Src1", one, len},
+          {source, "Src2", one, len},
+          {results, "Dst", one, one},
+          {size, len}}},
+        {"L2Norm", {{source, "Src", one, len}, {results, "Dst", one, one}, {size, len}}},
+        {"CrossProduct",
+         {{source, "Src1", one, "3"}, {source, "Src2", one, "3"}, {result, "Dst", one, "3"}}},
+        {"Mul_mv",
+         {{source, "Src1", "src1Height", "src1Width"},
+          {size, "src1Width"},
+          {size, "src1Height"},
+          {source, "Src2", one, "src2Len"},
+          {size, "src2Len"},
+          {result, "Dst", one, "src1Height"}},
+         true},
+        {"Gaxpy",
+         {{source, "Src1", "src1Height", "src1Width"},
+          {size, "src1Width"},
+          {size, "src1Height"},
+          {source, "Src2", one, "src2Len"},
+          {size, "src2Len"},
+          {source, "Src3", one, "src3Len"},
+          {size, "src3Len"},
+          {result, "Dst", one, "src3Len"}},
+         true},
+        {"Mul_mm",
          {{source, "Src1", "src1Height", "src1Width"},
           {size, "src1Width"},
           {size, "src1Height"},
@@ -88,9 +144,9 @@ const std::vector<Family>& families() {
     return table;
 }
 
-// "tama" gives "ta", "ma".
+// "tama" gives "ta", "ma". Constants are no operands in memory.
 std::vector<std::string> lettersOf(const std::string& shape) {
-    static const std::regex letter("[mtvc]a?");
+    static const std::regex letter("[mtv]a?");
     const auto begin = std::sregex_iterator(shape.begin(), shape.end(), letter);
     std::vector<std::string> letters;
     for (auto match = begin; match != std::sregex_iterator(); ++match) {
@@ -99,14 +155,15 @@ std::vector<std::string> lettersOf(const std::string& shape) {
     return letters;
 }
 
-// Sources take the letters of the shape in their order; a destination is an array if any of them
-// is, indices are one if their matrix, the first source, is. Shared sizes are those of the result,
+// Sources take the letters of the shape in their order, a further one takes the last letter again; a
+// destination is an array if any of them is, indices are one if their matrix, the first source, is. Shared sizes are those of the result,
 // so a transposed source is stored with them swapped. In products it is the result whose rows or
 // columns are named after the other size of its source.
 std::vector<Parameter> parametersOf(const Function& function) {
     const auto family =
         std::find_if(families().begin(), families().end(), [&](const Family& candidate) {
-            return contains(candidate.operations, function.operation);
+            return contains(candidate.operations, function.operation) ||
+                   contains(candidate.operations, function.operation + '_' + function.operands);
         });
     if (family == families().end()) throw std::invalid_argument("no family of " + function.name);
 
@@ -115,12 +172,14 @@ std::vector<Parameter> parametersOf(const Function& function) {
     std::size_t next = 0;
     for (Parameter& parameter : parameters) {
         if (parameter.kind == Parameter::source) {
-            const std::string& letter = letters.at(next++);
+            const std::string& letter = letters.at(std::min(next++, letters.size() - 1));
             parameter.array = letter.ends_with('a');
             parameter.transposed = letter.starts_with('t');
             if (!parameter.transposed) continue;
             if (!family->isProduct)
                 std::swap(parameter.rows, parameter.columns);
+            else if (next == 1 && parameters.back().isVector())
+                parameters.back().columns = parameter.columns;
             else if (next == 1)
                 parameters.back().rows = parameter.columns;
             else
@@ -143,6 +202,10 @@ std::vector<Argument> argumentsOf(const Function& function) {
         };
         if (parameter.kind == Parameter::size) {
             add(Argument::size, parameter.name);
+            continue;
+        }
+        if (parameter.kind == Parameter::value) {
+            add(Argument::value, parameter.name);
             continue;
         }
         if (parameter.isPlain()) {
@@ -191,13 +254,17 @@ Function functionOf(const std::string& name) {
     function.elementSize = match[3] == "32f" ? 4 : 8;
     function.layout = match[4] == "_P" ? Layout::P : match[4] == "_L" ? Layout::L : Layout::S;
     function.array = function.shape.find('a') != std::string::npos;
+    for (const char letter : function.shape) {
+        if (letter != 'a') function.operands += letter == 't' ? 'm' : letter;
+    }
     function.parameters = parametersOf(function);
     function.arguments = argumentsOf(function);
     return function;
 }
 
 int extentOf(const std::string& name, const Sizes& sizes) {
-    return name == "1" ? 1 : sizes.at(name);
+    const bool isNumber = std::isdigit(static_cast<unsigned char>(name.front())) != 0;
+    return isNumber ? std::stoi(name) : sizes.at(name);
 }
 
 Sizes productSizes(const Function& function, int rows, int inner, int columns, int count) {
@@ -205,12 +272,17 @@ Sizes productSizes(const Function& function, int rows, int inner, int columns, i
     const auto set = [&](const std::string& name, int readRows, int readColumns) {
         for (const Parameter& parameter : function.parameters) {
             if (parameter.name != name) continue;
+            if (parameter.isVector()) {
+                sizes[parameter.columns] = readRows;
+                continue;
+            }
             sizes[parameter.transposed ? parameter.columns : parameter.rows] = readRows;
             sizes[parameter.transposed ? parameter.rows : parameter.columns] = readColumns;
         }
     };
     set("Src1", rows, inner);
     set("Src2", inner, columns);
+    set("Src3", rows, columns);
     return sizes;
 }
 
@@ -246,10 +318,13 @@ const std::vector<Function>& allFunctions() {
     return functions;
 }
 
-std::vector<Function> functionsOf(std::string_view operations) {
+std::vector<Function> functionsOf(std::string_view operations, std::string_view operands) {
     std::vector<Function> functions;
     std::copy_if(allFunctions().begin(), allFunctions().end(), std::back_inserter(functions),
-                 [&](const Function& f) { return contains(operations, f.operation); });
+                 [&](const Function& f) {
+                     return contains(operations, f.operation) &&
+                            (operands.empty() || contains(operands, f.operands));
+                 });
     return functions;
 }
 

@@ -16,9 +16,10 @@ enum class Layout { S, P, L };
 // One parameter in the sense of the interface's description: an operand stands for several
 // arguments. Rows and columns are the names of the sizes that give them, or 1. A vector is a row.
 struct Parameter {
-    enum Kind { source, result, results, indices, scratch, numberedScratch, size };
+    enum Kind { source, value, result, results, indices, scratch, numberedScratch, size };
 
-    // `results` and `indices` are plain arrays, a run of `columns` elements per object; indices are
+    // A `value` is a number passed as such, which a call keeps in memory like an operand. `results`
+    // and `indices` are plain arrays, a run of `columns` elements per object; indices are
     // 32-bit integers, the rows of a matrix in the order of its pivots. Numbered scratch has a
     // 32-bit integer for each row behind its elements.
     Kind kind;
@@ -29,12 +30,14 @@ struct Parameter {
     bool transposed = false;
 
     bool isScratch() const { return kind == scratch || kind == numberedScratch; }
-    bool isPlain() const { return kind == results || kind == indices || isScratch(); }
+    bool isPlain() const {
+        return kind == value || kind == results || kind == indices || isScratch();
+    }
     bool isVector() const { return rows == "1"; }
 };
 
 struct Argument {
-    enum Meaning { pointer, stride0, stride1, stride2, shift, size, count };
+    enum Meaning { pointer, stride0, stride1, stride2, shift, value, size, count };
 
     Meaning meaning;
     std::string name;
@@ -45,6 +48,7 @@ struct Function {
     std::string name;
     std::string operation; // "EigenValuesSym"
     std::string shape;     // "tama"
+    std::string operands;  // "mm": the shape, be they arrays or transposed or not
     Layout layout;
     int elementSize;
     bool array; // of objects, with a count
@@ -60,10 +64,11 @@ struct Function {
 // By name: "width", "height", "widthHeight", "src1Width", "count".
 using Sizes = std::map<std::string, int>;
 
-// Rows or columns of a parameter.
+// Rows or columns of a parameter: a size, or a number.
 int extentOf(const std::string& name, const Sizes& sizes);
 
-// Sizes of a product's operands, as its shape reads them: rows x inner by inner x columns.
+// Sizes of a product's operands, as its shape reads them: rows x inner by inner x columns, or by a
+// vector.
 Sizes productSizes(const Function& function, int rows, int inner, int columns, int count);
 
 // work(float()) or work(double())
@@ -77,9 +82,10 @@ Function functionOf(const std::string& name);
 std::ostream& operator<<(std::ostream& out, const Function& function);
 std::ostream& operator<<(std::ostream& out, const Sizes& sizes);
 
-// The functions that the library's own lists name, or those of them that belong to `operations`.
+// The functions that the library's own lists name, or those of them that belong to `operations` and
+// have one of the kinds of operands, or any.
 const std::vector<Function>& allFunctions();
-std::vector<Function> functionsOf(std::string_view operations);
+std::vector<Function> functionsOf(std::string_view operations, std::string_view operands = {});
 
 // Whether one of the words, separated by blanks, is `word`.
 bool contains(std::string_view words, std::string_view word);

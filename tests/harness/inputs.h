@@ -30,6 +30,33 @@ inline double unit(Random& random) {
     return oneOf({1.0, -1.0}, random);
 }
 
+// Ordinary numbers of several magnitudes, which some calls mix with signed zeros, with numbers that
+// overflow and underflow, or with everything.
+template <class T>
+T mixedValue(Random& random, std::uint64_t mix) {
+    using Limits = std::numeric_limits<T>;
+    static constexpr T special[] = {T(0),
+                                    -T(0),
+                                    T(1),
+                                    -T(1),
+                                    Limits::denorm_min(),
+                                    -Limits::min(),
+                                    Limits::epsilon(),
+                                    Limits::max(),
+                                    Limits::lowest(),
+                                    Limits::infinity(),
+                                    -Limits::infinity(),
+                                    Limits::quiet_NaN()};
+    static constexpr struct {
+        std::uint64_t kinds;
+        std::uint64_t in64;
+    } mixes[] = {{1, 0}, {2, 48}, {9, 32}, {12, 4}};
+    const auto [kinds, in64] = mixes[mix % std::size(mixes)];
+    const std::uint64_t bits = random();
+    if (bits % 64 < in64) return special[(bits >> 8) % kinds];
+    return static_cast<T>(static_cast<std::int32_t>(bits >> 32)) / static_cast<T>(1 << bits % 30);
+}
+
 struct Size {
     int rows;
     int columns;

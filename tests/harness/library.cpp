@@ -39,6 +39,12 @@ bool runsHere(const std::string& path) {
     return true;
 }
 
+ffi_type* typeOf(const Argument& argument, int elementSize) {
+    if (argument.meaning == Argument::pointer) return &ffi_type_pointer;
+    if (argument.meaning != Argument::value) return &ffi_type_sint32;
+    return elementSize == 4 ? &ffi_type_float : &ffi_type_double;
+}
+
 } // namespace
 
 Library::Library(const std::string& path)
@@ -57,8 +63,7 @@ std::int32_t Library::call(const Function& function, const std::vector<Value>& v
     std::vector<ffi_type*> types;
     std::vector<void*> addresses;
     for (std::size_t k = 0; k < values.size(); ++k) {
-        const bool isPointer = function.arguments[k].meaning == Argument::pointer;
-        types.push_back(isPointer ? &ffi_type_pointer : &ffi_type_sint32);
+        types.push_back(typeOf(function.arguments[k], function.elementSize));
         addresses.push_back(const_cast<Value*>(&values[k]));
     }
     ffi_cif interface;

@@ -5,7 +5,7 @@
 
 namespace harness {
 
-// What is passed for one argument.
+// What is passed for one argument; the bytes of a constant in their own type.
 union Value {
     void* pointer;
     std::int32_t number;

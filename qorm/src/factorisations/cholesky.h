@@ -61,7 +61,7 @@ V reciprocalSqrt(const V& s) {
 // Row by row. Returns the number of rows that are complete: n, or that of the first row whose pivot
 // fails, in any lane, of which all but the diagonal element is.
 template <class V, class A, class D, class N>
-std::ptrdiff_t factoriseRows(const A& a, const D& d, N n, LaneType<V> threshold) {
+std::ptrdiff_t factoriseCholeskyRows(const A& a, const D& d, N n, LaneType<V> threshold) {
     for (std::ptrdiff_t i = 0; i < n; ++i) {
         for (std::ptrdiff_t j = 0; j < i; ++j) {
             V s = V(a(i, j));
@@ -87,12 +87,12 @@ qorStatus factoriseOneCholesky(const Src& src, const Dst& dst, N n,
         for (std::ptrdiff_t i = 0; i < n; ++i) {
             for (std::ptrdiff_t j = 0; j <= i; ++j) work(i, j) = src(i, j);
         }
-        rows = factoriseRows<T>(work, work, n, threshold);
+        rows = factoriseCholeskyRows<T>(work, work, n, threshold);
         for (std::ptrdiff_t i = 0; i < n && i <= rows; ++i) {
             for (std::ptrdiff_t j = 0; j <= i && (j < i || i < rows); ++j) dst(i, j) = work(i, j);
         }
     } else {
-        rows = factoriseRows<T>(src, dst, n, threshold);
+        rows = factoriseCholeskyRows<T>(src, dst, n, threshold);
     }
     return rows < n ? qorStatusNotPositiveDefinite : qorStatusOk;
 }
@@ -109,7 +109,7 @@ template <class V, class Src, class Dst, class N>
         V elements[areaOf<N>];
         const PackMatrix<V, N> work = {elements, n};
         loadLanes<Part::lowerTriangle>(src, first, live, n, n, work);
-        const auto rows = runFor<factoriseRows<V, PackMatrix<V, N>, PackMatrix<V, N>, N>>(
+        const auto rows = runFor<factoriseCholeskyRows<V, PackMatrix<V, N>, PackMatrix<V, N>, N>>(
             src, work, work, n, threshold);
         if (rows < n) return qorStatusNotPositiveDefinite;
         storeLanes<Part::lowerTriangle>(dst, first, live, n, n, work);
@@ -125,8 +125,8 @@ qorStatus factoriseCholesky(const Src& src, const Dst& dst, Size size, Count cou
     const auto guard = [&] {
         return guardOf(sharingOf(n, Sharing::places), src, dst, {n, n}, count.value);
     };
-    return withKnownSize(n, [&](auto fixed) {
-        return onAllObjects<LanesOf<T>, Src::holdsArray>(
+    return withKnownSize<Src>(n, [&](auto fixed) {
+        return onAllObjects<LanesOf<Src, decltype(fixed)>, Src::holdsArray>(
             guard, count.value, [&]<class V>(std::ptrdiff_t first, int live) {
                 return factoriseCholeskyBlock<V>(src, dst, first, live, fixed, threshold);
             });

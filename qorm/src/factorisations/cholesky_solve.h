@@ -83,9 +83,9 @@ qorStatus solveCholesky(const Matrix& matrix, const B& b, const X& x, Size size,
         return guardOfSystems(matrix, {n, n}, sharingOf(n, Sharing::none), b,
                               sharingOf(n, Sharing::places), x, count.value);
     };
-    return withKnownSize(n, [&](auto fixed) {
+    return withKnownSize<X>(n, [&](auto fixed) {
         const auto solveAll = [&](const auto& shared) {
-            return onAllObjects<LanesOf<T>, X::holdsArray>(
+            return onAllObjects<LanesOf<X, decltype(fixed)>, X::holdsArray>(
                 guard, count.value, [&]<class V>(std::ptrdiff_t first, int live) {
                     return solveCholeskyBlock<V>(matrix, b, x, first, live, fixed, shared);
                 });

@@ -243,18 +243,17 @@ template <class V, class Src, class Dst, class N>
 }
 
 // Exchanges of rows keep whole matrices at work: larger ones need all registers for one pack.
-template <class T, class N>
-using LuLanes = LanesOf<T, (hasOwnPath<N> && areaOf<N> > 16) ? 1 : 2>;
+template <class Operand, class N>
+using LuLanes = LanesOf<Operand, N, (hasOwnPath<N> && areaOf<N> > 16) ? 1 : 2>;
 
 template <class Src, class Dst>
 qorStatus factoriseLu(const Src& src, const Plain<std::int32_t>& pivots, const Dst& dst, Size size,
                       Count count = Count(1)) {
-    using T = typename Dst::Element;
     const std::ptrdiff_t n = size.value;
     const Sharing sharing = sharingOf(n, Sharing::places);
     const auto guard = [&] { return guardOf(sharing, src, dst, {n, n}, count.value); };
-    return withKnownSize(n, [&](auto fixed) {
-        return onAllObjects<LuLanes<T, decltype(fixed)>, Src::holdsArray>(
+    return withKnownSize<Src>(n, [&](auto fixed) {
+        return onAllObjects<LuLanes<Src, decltype(fixed)>, Src::holdsArray>(
             guard, count.value, [&]<class V>(std::ptrdiff_t first, int live) {
                 return factoriseLuBlock<V>(src, pivots, dst, first, live, fixed);
             });

@@ -212,9 +212,9 @@ qorStatus solveLu(const Matrix& matrix, const Plain<const std::int32_t>& pivots,
         return guardOfSystems(matrix, {n, n}, sharingOf(n, Sharing::none), b,
                               sharingOf(n, Sharing::none), x, count.value);
     };
-    return withKnownSize(n, [&](auto fixed) {
+    return withKnownSize<X>(n, [&](auto fixed) {
         const auto solveAll = [&](const auto& shared) {
-            return onAllObjects<LuLanes<T, decltype(fixed)>, X::holdsArray>(
+            return onAllObjects<LuLanes<X, decltype(fixed)>, X::holdsArray>(
                 guard, count.value, [&]<class V>(std::ptrdiff_t first, int live) {
                     return solveLuBlock<V>(matrix, pivots, b, x, first, live, fixed, shared);
                 });

@@ -6,10 +6,21 @@
 
 namespace qorm::factorisations {
 
+// Contiguous rows by strides.
+template <class Operand>
+inline constexpr bool isFastest = Operand::layout == Layout::S&& Operand::hasContiguousRows;
+
 // Two registers where there is room: what waits for a root or a division in one overlaps with the
-// other. A guard allows for two.
-template <class T, int registers = 2>
-using LanesOf = Pack<T, registers>;
+// other. The layouts in which loads and stores take the time have one, and so has a
+// size of 8, which is long enough.
+template <class Operand, class N, int registers = 2>
+using LanesOf =
+    Pack<std::remove_const_t<typename Operand::Element>,
+         (Operand::layout == Layout::P || isFastest<Operand>)&&largestSize<N> != 8 ? registers : 1>;
+
+// The most lanes that a block of these elements may have.
+template <class T>
+inline constexpr int mostLanes = laneCount<Pack<T, 2>>;
 
 // work.operator()<V>(first, live) on all objects: arrays in lanes where guard() allows it, a single
 // object, which needs no guard, by itself.
@@ -21,15 +32,14 @@ qorStatus onAllObjects(const MakeGuard& guard, std::ptrdiff_t count, const Work&
         return work.template operator()<LaneType<V>>(0, 1);
 }
 
-// The arithmetic of a block, compiled into blocks of contiguous rows by strides, which are the
-// fastest, and once for all other layouts.
+// The arithmetic of a block, compiled into those of the fastest layout, and once for all others.
 template <auto kernel, class... Arguments>
 [[gnu::noinline, gnu::flatten]] auto runApart(Arguments&... arguments) {
     return kernel(arguments...);
 }
 template <auto kernel, class Operand, class... Arguments>
 [[gnu::always_inline]] inline auto runFor(const Operand&, Arguments&... arguments) {
-    if constexpr (Operand::layout == Layout::S && Operand::hasContiguousRows)
+    if constexpr (isFastest<Operand>)
         return kernel(arguments...);
     else
         return runApart<kernel>(arguments...);
@@ -38,6 +48,23 @@ template <auto kernel, class Operand, class... Arguments>
 // These paths load all of an object before they store any of it.
 constexpr Sharing sharingOf(std::ptrdiff_t n, Sharing otherwise) {
     return isUnrolled(n) ? Sharing::any : otherwise;
+}
+
+// work(n) with a constant for sizes 3 to 6, and in the fastest layout for 8, which lanes are faster
+// for if they know it.
+template <class Operand, class Work>
+auto withKnownSize(std::ptrdiff_t n, const Work& work) {
+    if constexpr (isFastest<Operand> && Operand::holdsArray) {
+        if (n == 8) return work(Fixed<8>());
+    }
+    return withStaticSize(n, work);
+}
+template <class Operand, class Work>
+auto withKnownSquare(std::ptrdiff_t width, std::ptrdiff_t height, const Work& work) {
+    if constexpr (isFastest<Operand> && Operand::holdsArray) {
+        if (width == 8 && height == 8) return work(Fixed<8>(), Fixed<8>());
+    }
+    return withStaticSquare(width, height, work);
 }
 
 // Sizes that only lanes know are not known to one object.
@@ -52,7 +79,7 @@ constexpr auto sizeOfOne(N n) {
 // The guard of a factorisation: source and destination are matrices of the same size.
 template <class Src, class Dst>
 auto guardOf(Sharing sharing, const Src& src, const Dst& dst, Extent extent, std::ptrdiff_t count) {
-    constexpr int lanes = laneCount<LanesOf<typename Dst::Element>>;
+    constexpr int lanes = mostLanes<typename Dst::Element>;
     auto guard = readAheadOf(sharing, src, extent, dst, extent, count, lanes);
     if (std::max(extent.rows, extent.columns) > mostLaneSize) guard.allowNever();
     return guard;

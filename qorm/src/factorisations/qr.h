@@ -115,8 +115,9 @@ qorStatus factoriseQr(const Src& src, const Scratch<T>& scratch, const Dst& dst,
                       Size height, Count count = Count(1)) {
     const Extent extent = {height.value, width.value};
     const auto guard = [&] { return guardOf(Sharing::places, src, dst, extent, count.value); };
-    return withKnownSquare(extent.columns, extent.rows, [&](auto columns, auto rows) {
-        return onAllObjects<LanesOf<T, hasOwnPath<decltype(rows)> ? 2 : 1>, Src::holdsArray>(
+    return withKnownSquare<Src>(extent.columns, extent.rows, [&](auto columns, auto rows) {
+        return onAllObjects<LanesOf<Src, decltype(rows), hasOwnPath<decltype(rows)> ? 2 : 1>,
+                            Src::holdsArray>(
             guard, count.value, [&]<class V>(std::ptrdiff_t first, int live) {
                 return factoriseQrBlock<V>(src, scratch, dst, first, live, columns, rows);
             });

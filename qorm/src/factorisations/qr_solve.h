@@ -159,9 +159,9 @@ qorStatus solveQr(const Matrix& matrix, const Scratch<T>& scratch, const B& b, c
         return guardOfSystems(matrix, extent, sharingOf(square, Sharing::none), b, Sharing::any, x,
                               count.value);
     };
-    return withKnownSquare(extent.columns, extent.rows, [&](auto columns, auto rows) {
+    return withKnownSquare<X>(extent.columns, extent.rows, [&](auto columns, auto rows) {
         const auto solveAll = [&](const auto& shared) {
-            return onAllObjects<LanesOf<T>, X::holdsArray>(
+            return onAllObjects<LanesOf<X, decltype(rows)>, X::holdsArray>(
                 guard, count.value, [&]<class V>(std::ptrdiff_t first, int live) {
                     return solveQrBlock<V>(matrix, scratch, b, x, first, live, columns, rows,
                                            shared);

@@ -9,7 +9,7 @@ namespace qorm::factorisations {
 template <class Matrix, class B, class X>
 auto guardOfSystems(const Matrix& matrix, Extent extent, Sharing withMatrix, const B& b,
                     Sharing withB, const X& x, std::ptrdiff_t count) {
-    constexpr int lanes = laneCount<LanesOf<typename X::Element>>;
+    constexpr int lanes = mostLanes<typename X::Element>;
     const Extent solution = {1, extent.columns};
     auto factors = readAheadOf(withMatrix, matrix, extent, x, solution, count, lanes);
     if (std::max(extent.rows, extent.columns) > mostLaneSize) factors.allowNever();

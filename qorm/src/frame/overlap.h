@@ -339,8 +339,10 @@ auto readAheadOf(Sharing sharing, const Src& src, Extent read, const Dst& dst, E
     } else if (src.hasObjectsSideBySide() && dst.hasObjectsSideBySide()) {
         const auto source = src.object(0, read.columns);
         const auto destination = dst.object(0, written.columns);
-        const int objects = static_cast<int>(std::min<std::ptrdiff_t>(lanes, count));
-        const int sources = Src::holdsArray ? objects : 1;
+        // Arrays go on side by side; a single source has to be apart from all that is written.
+        const std::ptrdiff_t objects =
+            Src::holdsArray ? std::min<std::ptrdiff_t>(lanes, count) : count;
+        const std::ptrdiff_t sources = Src::holdsArray ? objects : 1;
         const bool mayAlways =
             sharing != Sharing::none && read == written
                 ? positionsAreIndependent(source, sources, destination, read.columns, read.rows,

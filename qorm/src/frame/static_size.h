@@ -95,17 +95,6 @@ constexpr bool isUnrolled(std::ptrdiff_t n) {
 template <class N>
 inline constexpr bool hasOwnPath = isUnrolled(isFixed<N> ? largestSize<N> : 0);
 
-// work(n) with a constant for these sizes, and for 8, which lanes are faster for if they know it.
-template <class Work>
-auto withKnownSize(std::ptrdiff_t n, const Work& work) {
-    return n == 8 ? work(Fixed<8>()) : withStaticSize(n, work);
-}
-template <class Work>
-auto withKnownSquare(std::ptrdiff_t width, std::ptrdiff_t height, const Work& work) {
-    return width == 8 && height == 8 ? work(Fixed<8>(), Fixed<8>())
-                                     : withStaticSquare(width, height, work);
-}
-
 // Room for the elements of a square of N, or of a column.
 template <class N>
 inline constexpr std::ptrdiff_t areaOf = largestSize<N>* largestSize<N>;

@@ -229,7 +229,7 @@ template <class V, bool inPairs, class S, class Rows, class Terms>
         LoadedVector<V, Rows> sums;
         for (std::ptrdiff_t i = 0; i < rows; ++i) {
             const auto p = [&](std::ptrdiff_t k) { return element(i, k) * V(x(k)); };
-            if constexpr (inPairs && largestSize<Terms> > 3)
+            if constexpr (inPairs && largestSize < Terms >> 3)
                 sums(i) = sumOfPairs<V>(p, terms);
             else
                 sums(i) = sumOfChain<hasOwnPath<Rows>, V>(p, terms);
@@ -268,7 +268,7 @@ qorStatus multiplySystems(const S& s, std::ptrdiff_t count) {
     if constexpr (holdsArray) {
         if (std::max(s.rows(), s.terms()) <= mostLaneSize) {
             const auto guard = guardOf(s, count);
-            return withKnownSquare(s.terms(), s.rows(), [&](auto terms, auto rows) {
+            return withStaticSquare(s.terms(), s.rows(), [&](auto terms, auto rows) {
                 if constexpr (inPairs && !hasOwnPath<decltype(rows)>)
                     return qorStatus{qorStatusOk};
                 else
