@@ -1,8 +1,7 @@
 // Scalar products of vectors in lanes, and of vectors with themselves.
 #pragma once
 
-#include "frame/loaded.h"
-#include "frame/overlap.h"
+#include "frame/light_blocks.h"
 #include "frame/summation.h"
 
 namespace qorm::vectors {
@@ -60,14 +59,12 @@ template <class V, class A, class B, class N, class Work>
 [[gnu::always_inline]] inline void withProducts(const A& a, const B& b, std::ptrdiff_t first,
                                                 int live, std::ptrdiff_t k, N terms,
                                                 const Work& work) {
-    LoadedVector<V, N> x;
-    x.load(elementsFrom(a, k), first, live, terms);
+    const auto x = loadVectors<V>(elementsFrom(a, k), first, live, terms);
     if constexpr (isItself<B>) {
         work([&](std::ptrdiff_t i) { return x(i) * x(i); });
     } else {
         using Y = std::conditional_t<B::holdsArray, V, LaneType<V>>;
-        LoadedVector<Y, N> y;
-        y.load(elementsFrom(b, k), first, B::holdsArray ? live : 1, terms);
+        const auto y = loadVectors<Y>(elementsFrom(b, k), first, live, terms);
         work([&](std::ptrdiff_t i) { return x(i) * V(y(i)); });
     }
 }
@@ -91,15 +88,18 @@ template <Order order, class V, class A, class B, class N>
 }
 
 template <Order order, class V, class A, class B, class T, class N, class Finish>
-[[gnu::flatten]] qorStatus finishBlock(const A a, const B b, const Plain<T> dst,
-                                       std::ptrdiff_t first, int live, N len, Finish finish) {
+[[gnu::flatten]] void finishBlocks(const A a, const B b, const Plain<T> dst, std::ptrdiff_t first,
+                                   int live, std::ptrdiff_t blocks, N len, Finish finish) {
     if constexpr (laneCount<V> == 1) {
         dst.object(first)(0) = finish(productOfOne<order>(a, b, first, len));
     } else {
-        V result = finish(productsOfBlock<order, V>(a, b, first, live, len));
-        storeLanes(dst, first, live, Fixed<1>(), PackRun<V>{&result});
+        const auto finishBlock = [&](std::ptrdiff_t object, int liveLanes)
+            __attribute__((always_inline)) {
+            V result = finish(productsOfBlock<order, V>(a, b, object, liveLanes, len));
+            storeLanes(dst, object, liveLanes, Fixed<1>(), PackRun<V>{&result});
+        };
+        forEachBlock<V>(first, live, blocks, finishBlock);
     }
-    return qorStatusOk;
 }
 
 // finish(product) of each object to dst.
@@ -111,17 +111,23 @@ qorStatus productsInLanes(const A& a, const B& b, const Plain<T>& dst, std::ptrd
         if (!canLeaveOut(vectors, len)) guard.allowNever();
         return guard;
     };
-    const auto run = [&](const auto& guard) {
+    const auto isApart = [&](const auto& vectors) {
+        return canLeaveOut(vectors, len) &&
+               areSurelyApart(spansOf(vectors, 1, len), spansOf(dst), count);
+    };
+    const auto run = [&](bool apart, const auto& guard) {
         return withStaticSize(len, [&](auto n) {
-            return inLanes<Pack<T>>(guard, count, [&]<class V>(std::ptrdiff_t first, int live) {
-                return finishBlock<order, V>(a, b, dst, first, live, n, finish);
-            });
+            return inManyLanes<Pack<T>>(
+                apart, guard, count,
+                [&]<class V>(std::ptrdiff_t first, int live, std::ptrdiff_t blocks) {
+                    finishBlocks<order, V>(a, b, dst, first, live, blocks, n, finish);
+                });
         });
     };
     if constexpr (isItself<B>)
-        return run(guardOf(a));
+        return run(isApart(a), guardOf(a));
     else
-        return run(AllOf(guardOf(a), guardOf(b)));
+        return run(isApart(a) && isApart(b), AllOf(guardOf(a), guardOf(b)));
 }
 
 } // namespace qorm::vectors
