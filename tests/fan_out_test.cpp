@@ -52,7 +52,10 @@ const Row rows[] = {
     {"Gaxpy", all(5001), all(5001)},
     {"DotProduct", {40001, 20001, 20001, 40001, 20001}, {40001, 20001, 40001, 40001, 20001}},
     {"L2Norm", all(20001), all(20001)},
-    {"Det Invert EigenValuesSym", {20001, 20001, 20001, 40001, 20001}, all(20001)},
+    {"Copy Extract LoadIdentity", all(never), all(never)},
+    {"Det Invert EigenValuesSym Trace FrobNorm Transpose",
+     {20001, 20001, 20001, 40001, 20001},
+     all(20001)},
     {"EigenValuesVectorsSym LUBackSubst", all(1701), all(1701)},
     {"LUDecomp", {never, never, never, 40001, 20001}, all(never)},
     {"CholeskyDecomp", {7501, 7501, 2001, 2001, 2001}, {2001, 2001, 2001, 721, 2001}},
@@ -120,13 +123,13 @@ auto measureOf(const Function& function, const Sizes& sizes) {
         const bool isCounted = parameter.kind == Parameter::source ||
                                parameter.kind == Parameter::result ||
                                (parameter.kind == Parameter::results &&
-                                !contains("DotProduct L2Norm", function.operation));
+                                !contains("DotProduct L2Norm FrobNorm", function.operation));
         if (!isCounted) continue;
         (parameter.array ? perObject : single) +=
             std::int64_t{extentOf(parameter.rows, sizes)} * extentOf(parameter.columns, sizes);
     }
     const auto n = [&] { return sizes.at("widthHeight"); };
-    if (function.operation == "Det") perObject = n();
+    if (contains("Det Trace", function.operation)) perObject = n();
     if (function.operation == "Invert") perObject = 2 * n();
     if (contains("LUDecomp CholeskyDecomp", function.operation)) perObject = n() * n();
     if (function.operation == "Gaxpy") single = 0;
@@ -247,7 +250,7 @@ TEST_P(FanOut, beginsAtTheThreshold) {
 
 // Large enough for every function to spread, and one object more than a multiple of 3.
 Sizes largeSizes(const Function& function) {
-    if (contains("Det Invert", function.operation)) return sizesOf(function, 6, 6, 6700);
+    if (contains("Det Trace Invert", function.operation)) return sizesOf(function, 6, 6, 6700);
     const bool countsObjects =
         function.isOneOf("Mul Gaxpy Sub", "mva tva cva") || function.operation == "CrossProduct";
     return countsObjects ? sizesOf(function, 3, 3, 20002) : sizesOf(function, 76, 76, 7);
@@ -371,7 +374,8 @@ TEST_P(FanOut, countsANegativeMeasureOfMatricesAsSmall) {
 // Drivers that no entry function calls are exported all the same.
 std::vector<Function> arrayFunctions() {
     std::vector<Function> functions = allFunctions();
-    std::erase_if(functions, [](const Function& function) { return !function.array; });
+    std::erase_if(functions,
+                  [](const Function& function) { return !function.array || function.isDirect(); });
     for (Function& function : functions) {
         if (!fansOut(function)) function.name = "ownOMP_" + function.name;
     }

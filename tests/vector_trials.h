@@ -135,11 +135,6 @@ private:
         std::ostringstream text;
         text << call.describe();
         if (!trial.inPlaceOf.empty()) text << ", in place of " << trial.inPlaceOf;
-        const Placement::Step& step = trial.placement.behindBy;
-        if (!trial.placement.destinationOn.empty()) {
-            text << ", behind " << trial.placement.destinationOn << " by " << step.objects
-                 << " objects, " << step.rows << " rows, " << step.elements << " elements";
-        }
         for (const Operand& operand : call.operands()) {
             if (operand.parameter.kind == Parameter::value) continue;
             text << "; " << operand.parameter.name << " at "

@@ -26,10 +26,13 @@ void setStrides(Operand& operand, const Placement& placement, bool withGaps, int
     const Axis objects = {operand.stride0, operand.objects, gap(placement.objectGap)};
     const Axis rows = {operand.stride1, operand.rows, gap(placement.rowGap)};
     const Axis elements = {operand.stride2, operand.columns, gap(placement.elementGap)};
+    const Placement::Order order = operand.parameter.kind == Parameter::result
+                                       ? placement.resultOrder.value_or(placement.order)
+                                       : placement.order;
     const std::array<Axis, 3> innermostFirst =
-        placement.order == Placement::byRows      ? std::array{elements, rows, objects}
-        : placement.order == Placement::byColumns ? std::array{rows, elements, objects}
-                                                  : std::array{objects, elements, rows};
+        order == Placement::byRows      ? std::array{elements, rows, objects}
+        : order == Placement::byColumns ? std::array{rows, elements, objects}
+                                        : std::array{objects, elements, rows};
     std::int32_t inner =
         placement.sharing == Placement::interleavedElements ? sharers * size : size;
     for (const Axis& axis : innermostFirst) {
@@ -54,7 +57,8 @@ std::vector<std::ptrdiff_t> arrange(const std::vector<Operand*>& operands,
     for (int k = 0; k < sharers; ++k) {
         Operand& operand = *operands[static_cast<std::size_t>(k)];
         const bool withGaps = placement.gapsOnlyIn < 0 || placement.gapsOnlyIn == k;
-        setStrides(operand, placement, withGaps, sharers);
+        setStrides(operand, operand.parameter.isPlain() ? Placement{} : placement, withGaps,
+                   sharers);
         if (operand.parameter.name == placement.destinationOn) source = &operand;
         offsets.push_back(placement.sharing == Placement::interleavedElements
                               ? k * operand.elementSize
@@ -68,7 +72,7 @@ std::vector<std::ptrdiff_t> arrange(const std::vector<Operand*>& operands,
     if (source == nullptr) return offsets;
     const std::ptrdiff_t distance = lengthOf(placement.behindBy, *source);
     for (std::size_t k = 0; k < operands.size(); ++k) {
-        if (operands[k]->parameter.kind == Parameter::result) {
+        if (operands[k]->parameter.isWritten()) {
             offsets[k] = std::max<std::ptrdiff_t>(0, distance);
         } else if (operands[k] == source) {
             offsets[k] = std::max<std::ptrdiff_t>(0, -distance);
@@ -168,7 +172,7 @@ void Operand::accept() const {
 
 Call::Call(const Function& function, const Sizes& sizes, const Placement& placement,
            std::uint64_t seed, std::string_view inPlaceOf)
-    : function_(function), sizes_(sizes), placementName_(placement.name), seed_(seed) {
+    : function_(function), sizes_(sizes), placement_(placement), seed_(seed) {
     for (const Parameter& parameter : function.parameters) {
         if (parameter.kind == Parameter::size) continue;
         Operand operand{};
@@ -202,7 +206,8 @@ void Call::place(const Placement& placement) {
     Random random(seed_);
     std::vector<Operand*> matrices;
     for (Operand& operand : operands_) {
-        if (!operand.parameter.isPlain()) matrices.push_back(&operand);
+        const bool isOnSource = operand.parameter.isWritten() && !placement.destinationOn.empty();
+        if (!operand.parameter.isPlain() || isOnSource) matrices.push_back(&operand);
     }
     const auto take = [&](std::ptrdiff_t bytes) {
         return Region::take(bytes + placement.misalignment,
@@ -210,8 +215,8 @@ void Call::place(const Placement& placement) {
     };
     const std::vector<std::ptrdiff_t> offsets = arrange(matrices, placement);
     const auto isSharing = [&](const Operand& operand) {
-        const bool overlaps = operand.parameter.kind == Parameter::result ||
-                              operand.parameter.name == placement.destinationOn;
+        const bool overlaps =
+            operand.parameter.isWritten() || operand.parameter.name == placement.destinationOn;
         return placement.sharing != Placement::apart ||
                (overlaps && !placement.destinationOn.empty());
     };
@@ -229,7 +234,7 @@ void Call::place(const Placement& placement) {
         setTable(operand, placement.scattered, random);
     }
     for (Operand& operand : operands_) {
-        if (!operand.parameter.isPlain()) continue;
+        if (operand.memory) continue;
         setStrides(operand, {}, false, 1);
         operand.memory = take(spanOf(operand));
         operand.base = operand.memory->begin() + placement.misalignment;
@@ -248,9 +253,8 @@ const Operand* Call::scratch() const {
 }
 
 const Operand& Call::result() const {
-    return *std::find_if(operands_.rbegin(), operands_.rend(), [](const Operand& o) {
-        return o.parameter.kind == Parameter::result || o.parameter.kind == Parameter::results;
-    });
+    return *std::find_if(operands_.rbegin(), operands_.rend(),
+                         [](const Operand& o) { return o.parameter.isWritten(); });
 }
 
 Value Call::valueOf(const Argument& argument) const {
@@ -290,7 +294,7 @@ std::int32_t Call::run(const Library& library) {
     return library.call(function_, values, describe());
 }
 
-std::string Call::difference() const {
+std::string Call::difference(Nans nans) const {
     std::ostringstream text;
     for (const Operand& operand : operands_) {
         if (operand.parameter.isScratch()) {
@@ -302,7 +306,8 @@ std::string Call::difference() const {
             const char* live = operand.address(n, i, j);
             char* image = operand.memory->imageOf(live);
             const int size = operand.elementSize;
-            const bool bothNan = operand.parameter.kind != Parameter::indices &&
+            const bool bothNan = nans == Nans::alike &&
+                                 operand.parameter.kind != Parameter::indices &&
                                  (size == 4 ? isNan<float>(live) && isNan<float>(image)
                                             : isNan<double>(live) && isNan<double>(image));
             if (bothNan) {
@@ -328,8 +333,13 @@ std::string Call::difference() const {
 
 std::string Call::describe() const {
     std::ostringstream text;
-    text << function_ << ' ' << sizes_ << ", " << placementName_ << ", seed " << seed_ << ", "
+    text << function_ << ' ' << sizes_ << ", " << placement_.name << ", seed " << seed_ << ", "
          << threads_omp_of_n_qor << " threads, " << library_;
+    if (!placement_.destinationOn.empty()) {
+        const Placement::Step& step = placement_.behindBy;
+        text << ", behind " << placement_.destinationOn << " by " << step.objects << " objects, "
+             << step.rows << " rows, " << step.elements << " elements";
+    }
     return text.str();
 }
 

@@ -5,6 +5,7 @@
 #include "harness/memory.h"
 
 #include <cstring>
+#include <optional>
 
 namespace harness {
 
@@ -20,6 +21,7 @@ struct Placement {
 
     std::string_view name;
     Order order = byRows;
+    std::optional<Order> resultOrder = {}; // if it is another
     int elementGap = 0;
     int rowGap = 0;
     int objectGap = 0;
@@ -125,8 +127,9 @@ public:
     std::int32_t run(const Library& library);
 
     // The first element or other byte that is not what is expected, in words; empty if there is
-    // none. NaNs match each other; scratch may hold anything.
-    std::string difference() const;
+    // none. NaNs match each other, or as bits; scratch may hold anything.
+    enum class Nans { alike, asBits };
+    std::string difference(Nans nans = Nans::alike) const;
     std::string describe() const;
 
 private:
@@ -135,7 +138,7 @@ private:
 
     const Function& function_;
     Sizes sizes_;
-    std::string_view placementName_;
+    Placement placement_;
     std::uint64_t seed_;
     std::string library_;
     std::vector<Operand> operands_; // of the parameters that are no sizes, in their order

@@ -106,6 +106,14 @@ const std::vector<Family>& families() {
           {size, "src2Height"},
           {result, "Dst", "src1Height", "src2Width"}},
          true},
+        {"Copy_v", {{source, "Src", one, len}, {result, "Dst", one, len}, {size, len}}},
+        {"Copy_m", {{source, "Src", h, w}, {result, "Dst", h, w}, {size, w}, {size, h}}},
+        {"Extract_v", {{source, "Src", one, len}, {results, "Dst", one, len}, {size, len}}},
+        {"Extract_m", {{source, "Src", h, w}, {results, "Dst", h, w}, {size, w}, {size, h}}},
+        {"LoadIdentity", {{result, "Dst", h, w}, {size, w}, {size, h}}},
+        {"Transpose", {{source, "Src", h, w}, {size, w}, {size, h}, {result, "Dst", w, h}}},
+        {"Trace", {{source, "Src", n, n}, {size, n}, {results, "Dst", one, one}}},
+        {"FrobNorm", {{source, "Src", h, w}, {size, w}, {size, h}, {results, "Dst", one, one}}},
         {"Det",
          {{source, "Src", n, n},
           {size, n},
@@ -184,7 +192,7 @@ std::vector<Parameter> parametersOf(const Function& function) {
                 parameters.back().rows = parameter.columns;
             else
                 parameters.back().columns = parameter.rows;
-        } else if (parameter.kind == Parameter::result || parameter.kind == Parameter::results) {
+        } else if (parameter.isWritten()) {
             parameter.array = function.array;
         } else if (parameter.kind == Parameter::indices) {
             parameter.array = parameters.front().array;
@@ -229,7 +237,8 @@ std::vector<Argument> argumentsOf(const Function& function) {
 } // namespace
 
 Layout Function::layoutOf(const Parameter& parameter) const {
-    return layout == Layout::L && !parameter.array ? Layout::S : layout;
+    const Layout own = parameter.kind == Parameter::result ? resultLayout : layout;
+    return own == Layout::L && !parameter.array ? Layout::S : own;
 }
 
 bool Function::hasSize(std::string_view size) const {
@@ -242,8 +251,12 @@ bool Function::isOneOf(std::string_view operations, std::string_view shapes) con
     return contains(operations, operation) && contains(shapes, shape);
 }
 
+bool Function::isDirect() const {
+    return contains("Copy Extract LoadIdentity", operation);
+}
+
 Function functionOf(const std::string& name) {
-    static const std::regex grammar("qorm([A-Za-z0-9]+)_([mtvca]+)_(32f|64f)(_[PL])?");
+    static const std::regex grammar("qorm([A-Za-z0-9]+)_([mtvca]+)_(32f|64f)(_[SPL]?[SPL])?");
     std::smatch match;
     if (!std::regex_match(name, match, grammar)) throw std::invalid_argument("no name: " + name);
 
@@ -252,7 +265,12 @@ Function functionOf(const std::string& name) {
     function.operation = match[1];
     function.shape = match[2];
     function.elementSize = match[3] == "32f" ? 4 : 8;
-    function.layout = match[4] == "_P" ? Layout::P : match[4] == "_L" ? Layout::L : Layout::S;
+    const std::string suffix = match[4].matched ? match[4].str() : "_S";
+    const auto layoutNamed = [](char letter) {
+        return letter == 'P' ? Layout::P : letter == 'L' ? Layout::L : Layout::S;
+    };
+    function.layout = layoutNamed(suffix[1]);
+    function.resultLayout = layoutNamed(suffix.back());
     function.array = function.shape.find('a') != std::string::npos;
     for (const char letter : function.shape) {
         if (letter != 'a') function.operands += letter == 't' ? 'm' : letter;

@@ -19,7 +19,7 @@ struct Parameter {
     enum Kind { source, value, result, results, indices, scratch, numberedScratch, size };
 
     // A `value` is a number passed as such, which a call keeps in memory like an operand. `results`
-    // and `indices` are plain arrays, a run of `columns` elements per object; indices are
+    // and `indices` are plain arrays, without gaps between elements, rows and objects; indices are
     // 32-bit integers, the rows of a matrix in the order of its pivots. Numbered scratch has a
     // 32-bit integer for each row behind its elements.
     Kind kind;
@@ -29,6 +29,7 @@ struct Parameter {
     bool array = false;
     bool transposed = false;
 
+    bool isWritten() const { return kind == result || kind == results; }
     bool isScratch() const { return kind == scratch || kind == numberedScratch; }
     bool isPlain() const {
         return kind == value || kind == results || kind == indices || isScratch();
@@ -50,6 +51,7 @@ struct Function {
     std::string shape;     // "tama"
     std::string operands;  // "mm": the shape, be they arrays or transposed or not
     Layout layout;
+    Layout resultLayout; // differs in copies from one layout to another
     int elementSize;
     bool array; // of objects, with a count
     std::vector<Parameter> parameters;
@@ -59,6 +61,8 @@ struct Function {
     Layout layoutOf(const Parameter& parameter) const;
     bool hasSize(std::string_view size) const;
     bool isOneOf(std::string_view operations, std::string_view shapes) const;
+    // Whether its entry function does the work itself, without drivers and cores.
+    bool isDirect() const;
 };
 
 // By name: "width", "height", "widthHeight", "src1Width", "count".

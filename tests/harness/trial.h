@@ -15,7 +15,8 @@
 namespace harness {
 
 inline Sizes sizesOf(Size size, int count) {
-    return {{"widthHeight", size.columns},
+    return {{"len", size.columns},
+            {"widthHeight", size.columns},
             {"width", size.columns},
             {"height", size.rows},
             {"count", count}};

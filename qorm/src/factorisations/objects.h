@@ -1,14 +1,11 @@
 // What the factorisations and their solvers share: how all objects of a call are done.
 #pragma once
 
+#include "frame/known_sizes.h"
 #include "frame/loaded.h"
 #include "frame/overlap.h"
 
 namespace qorm::factorisations {
-
-// Contiguous rows by strides.
-template <class Operand>
-inline constexpr bool isFastest = Operand::layout == Layout::S&& Operand::hasContiguousRows;
 
 // Two registers where there is room: what waits for a root or a division in one overlaps with the
 // other. The layouts in which loads and stores take the time have one, and so has a
@@ -48,32 +45,6 @@ template <auto kernel, class Operand, class... Arguments>
 // These paths load all of an object before they store any of it.
 constexpr Sharing sharingOf(std::ptrdiff_t n, Sharing otherwise) {
     return isUnrolled(n) ? Sharing::any : otherwise;
-}
-
-// work(n) with a constant for sizes 3 to 6, and in the fastest layout for 8, which lanes are faster
-// for if they know it.
-template <class Operand, class Work>
-auto withKnownSize(std::ptrdiff_t n, const Work& work) {
-    if constexpr (isFastest<Operand> && Operand::holdsArray) {
-        if (n == 8) return work(Fixed<8>());
-    }
-    return withStaticSize(n, work);
-}
-template <class Operand, class Work>
-auto withKnownSquare(std::ptrdiff_t width, std::ptrdiff_t height, const Work& work) {
-    if constexpr (isFastest<Operand> && Operand::holdsArray) {
-        if (width == 8 && height == 8) return work(Fixed<8>(), Fixed<8>());
-    }
-    return withStaticSquare(width, height, work);
-}
-
-// Sizes that only lanes know are not known to one object.
-template <class N>
-constexpr auto sizeOfOne(N n) {
-    if constexpr (hasOwnPath<N>)
-        return n;
-    else
-        return std::ptrdiff_t{n};
 }
 
 // The guard of a factorisation: source and destination are matrices of the same size.

@@ -10,6 +10,7 @@
 
 #define QORM_REORDERED_m_S(name, form, run, ARGUMENTS, ...) \
     QORM_CORE(own##name, run, C, __VA_ARGS__) QORM_CORE(own##name##_S2, run, S, __VA_ARGS__)
+#define QORM_GENERAL_m_S(name, form, run, ...) QORM_CORE(own##name, run, S, __VA_ARGS__)
 #define QORM_REORDERED_m_P(name, form, run, ARGUMENTS, ...) \
     QORM_CORE(own##name, run, P, __VA_ARGS__)
 #define QORM_REORDERED_ma_S QORM_REORDERED_m_S

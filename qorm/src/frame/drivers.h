@@ -6,6 +6,7 @@
 #include "frame/signatures.h"
 
 #define QORM_REORDERED_m_S(name, form, run, ARGUMENTS, CORE_ARGUMENTS, ...)
+#define QORM_GENERAL_m_S(name, form, run, ARGUMENTS, ...)
 #define QORM_REORDERED_m_P(name, form, run, ARGUMENTS, CORE_ARGUMENTS, ...)
 
 #define QORM_REORDERED_ma_S(name, form, run, ARGUMENTS, CORE_ARGUMENTS, ...) \

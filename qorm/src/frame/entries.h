@@ -16,10 +16,16 @@
                                                             ARGUMENTS(GROUP, S, __VA_ARGS__)); \
     }
 
+#define QORM_GENERAL_m_S(name, form, run, ARGUMENTS, ...) \
+    extern "C" qorStatus own##name(ARGUMENTS(PARAM, S, __VA_ARGS__)); \
+    extern "C" qorStatus name(ARGUMENTS(PARAM, S, __VA_ARGS__)) { \
+        return qorm::enterSingle<own##name>(form, ARGUMENTS(GROUP, S, __VA_ARGS__)); \
+    }
+
 #define QORM_REORDERED_m_P(name, form, run, ARGUMENTS, CORE_ARGUMENTS, ...) \
     extern "C" qorStatus own##name(CORE_ARGUMENTS(PARAM, P, __VA_ARGS__)); \
     extern "C" qorStatus name(ARGUMENTS(PARAM, P, __VA_ARGS__)) { \
-        return qorm::enterSingle<own##name, own##name>(form, ARGUMENTS(GROUP, P, __VA_ARGS__)); \
+        return qorm::enterSingle<own##name>(form, ARGUMENTS(GROUP, P, __VA_ARGS__)); \
     }
 
 #define QORM_REORDERED_ma_S(name, form, run, ARGUMENTS, CORE_ARGUMENTS, ...) \

@@ -9,8 +9,9 @@
 
 namespace qorm {
 
-// One kind of argument check, over all groups of a call.
-enum class Check { none, null, count, size, match, stride, shift };
+// One kind of argument check, over all groups of a call. The last two are the two halves of `stride`:
+// those inside objects, and those between objects where there are many.
+enum class Check { none, null, count, size, match, stride, shift, innerStride, strideOfMany };
 
 using CheckOrder = std::array<Check, 6>;
 
@@ -54,10 +55,18 @@ qorStatus statusOf(Check check, const Form& form, const Groups&... groups) {
     case Check::size:
         return (groups.hasBadSize() || ...) ? qorStatusBadSize : qorStatusOk;
     case Check::match:
-        return std::apply(form.sizesMatch, sizesOf(groups...)) ? qorStatusOk
-                                                               : qorStatusSizeMismatch;
+        if constexpr (requires { form.sizesMatch; }) {
+            if (!std::apply(form.sizesMatch, sizesOf(groups...))) return qorStatusSizeMismatch;
+        }
+        return qorStatusOk;
     case Check::stride:
-        return (groups.hasBadStride() || ...) ? qorStatusBadStride : qorStatusOk;
+        return ((groups.hasBadStride0() || groups.hasBadInnerStride()) || ...) ? qorStatusBadStride
+                                                                               : qorStatusOk;
+    case Check::innerStride:
+        return (groups.hasBadInnerStride() || ...) ? qorStatusBadStride : qorStatusOk;
+    case Check::strideOfMany:
+        return (groups.holdsMany() || ...) && (groups.hasBadStride0() || ...) ? qorStatusBadStride
+                                                                              : qorStatusOk;
     case Check::shift:
         return (groups.hasBadShift() || ...) ? qorStatusBadShift : qorStatusOk;
     case Check::none:
@@ -98,6 +107,14 @@ qorStatus enterSingle(const Form& form, const Groups&... groups) {
     return callEither<core, generalCore>(groups...);
 }
 
+// The same where one core serves all.
+template <auto core, class Form, class... Groups>
+qorStatus enterSingle(const Form& form, const Groups&... groups) {
+    if (const qorStatus fault = firstFault(form, groups...)) return fault;
+    if (const auto answer = answerOf(form, groups...)) return *answer;
+    return callCore(core, groups...);
+}
+
 // Entry of a form on arrays.
 template <auto core, auto generalCore, auto driver, class Form, class... Groups>
 qorStatus enterArray(const Form& form, const Groups&... groups) {
@@ -110,6 +127,19 @@ qorStatus enterArray(const Form& form, const Groups&... groups) {
         return call(driver, groups...);
     }
     return callEither<core, generalCore>(groups...);
+}
+
+// What an entry that does the work itself needs to know.
+struct ChecksOnly {
+    CheckOrder checks;
+};
+
+// Entry of a form without other tiers, which knows both kinds of rows in one.
+template <class Run, class... Groups>
+qorStatus enterAndRun(const ChecksOnly& form, const Run& run, const Groups&... groups) {
+    if (const qorStatus fault = firstFault(form, groups...)) return fault;
+    if ((groups.isContiguous() && ...)) return run(groups.contiguous()...);
+    return run(groups...);
 }
 
 } // namespace qorm

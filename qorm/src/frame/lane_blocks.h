@@ -56,13 +56,15 @@ template <Scalar T, int length, class RunOf, class At>
 [[gnu::always_inline]] inline void loadRuns(const RunOf& runOf, const At& at) {
     constexpr int lanes = laneCount<Pack<T>>;
     constexpr int live = std::min(lanes, length);
-    forEachConstant<(length + lanes - 1) / lanes>([&](auto which) {
+    forEachConstant<(length + lanes - 1) / lanes>([&](auto which) __attribute__((always_inline)) {
         constexpr int from = std::max(0, std::min(which * lanes, length - lanes));
         Register<T> chunk[lanes];
-        forEachConstant<lanes>(
-            [&](auto lane) { chunk[lane] = loadVector<T, lanes, live>(runOf(lane) + from); });
+        forEachConstant<lanes>([&](auto lane) __attribute__((always_inline)) {
+            chunk[lane] = loadVector<T, lanes, live>(runOf(lane) + from);
+        });
         transposeRegisters(chunk);
-        forEachConstant<live>([&](auto i) { at(from + i) = chunk[i]; });
+        forEachConstant<live>([&](auto i)
+                                  __attribute__((always_inline)) { at(from + i) = chunk[i]; });
     });
 }
 
@@ -72,16 +74,16 @@ template <Scalar T, int length, class Belongs, class RunOf, class At>
     constexpr int lanes = laneCount<Pack<T>>;
     constexpr int chunks = (length + lanes - 1) / lanes;
     Register<T> registers[chunks][lanes];
-    forEachConstant<chunks>([&](auto chunk) {
-        forEachConstant<lanes>([&](auto i) {
+    forEachConstant<chunks>([&](auto chunk) __attribute__((always_inline)) {
+        forEachConstant<lanes>([&](auto i) __attribute__((always_inline)) {
             registers[chunk][i] = at(std::min<int>(chunk * lanes + i, length - 1));
         });
         transposeRegisters(registers[chunk]);
     });
-    forEachConstant<lanes>([&](auto lane) {
+    forEachConstant<lanes>([&](auto lane) __attribute__((always_inline)) {
         if (lane >= live) return;
         T* const run = runOf(lane);
-        forEachConstant<chunks>([&](auto chunk) {
+        forEachConstant<chunks>([&](auto chunk) __attribute__((always_inline)) {
             constexpr int begin = chunk * lanes;
             constexpr unsigned mask = Belongs::maskOf(begin, std::min(begin + lanes, length));
             storeLanesOf<T, lanes, mask>(registers[chunk][lane], run + begin);
@@ -96,7 +98,7 @@ template <Scalar T, class RunOf, class At>
     for (int from = 0; from < length; from += lanes) {
         const int live = std::min(lanes, length - from);
         Register<T> chunk[lanes];
-        forEachConstant<lanes>([&](auto lane) {
+        forEachConstant<lanes>([&](auto lane) __attribute__((always_inline)) {
             const T* const begin = runOf(lane) + from;
             chunk[lane] = (live == lanes ? loadRun(begin) : loadRun(begin, live)).lanes[0];
         });
@@ -124,11 +126,23 @@ template <Scalar T, class RunOf, class At>
     }
 }
 
+// One register of each pack of a block.
+template <Scalar T, int registers>
+struct RegistersOf {
+    Pack<T, registers>* block;
+    int which;
+
+    [[gnu::always_inline]] Register<T>& operator()(std::ptrdiff_t k) const {
+        return block[k].lanes[which];
+    }
+    RegistersOf from(std::ptrdiff_t k) const { return {block + k, which}; }
+};
+
 // work(r, at) for each register of a block of packs: at(k) is that of element k.
 template <Scalar T, int registers, class Work>
 [[gnu::always_inline]] inline void forEachRegister(Pack<T, registers>* block, const Work& work) {
-    forEachConstant<registers>([&](auto r) {
-        work(r, [block, r](std::ptrdiff_t k) -> Register<T>& { return block[k].lanes[r]; });
+    forEachConstant<registers>([&](auto r) __attribute__((always_inline)) {
+        work(r, RegistersOf<T, registers>{block, r});
     });
 }
 
@@ -141,12 +155,17 @@ template <Scalar T, int length, int registers>
             const T* const begin = from + r * lanes * length;
             if constexpr (hasPackedTransposition<length>) {
                 Register<T> packed[length];
-                forEachConstant<length>(
-                    [&](auto k) { packed[k] = loadVector<T, lanes, lanes>(begin + k * lanes); });
+                forEachConstant<length>([&](auto k) __attribute__((always_inline)) {
+                    packed[k] = loadVector<T, lanes, lanes>(begin + k * lanes);
+                });
                 PackedTransposition<length, lanes>::gather(packed);
-                forEachConstant<length>([&](auto k) { at(k) = packed[k]; });
+                forEachConstant<length>([&](auto k)
+                                            __attribute__((always_inline)) { at(k) = packed[k]; });
             } else {
-                loadRuns<T, length>([begin](int lane) { return begin + lane * length; }, at);
+                loadRuns<T, length>(
+                    [begin](int lane)
+                        __attribute__((always_inline)) { return begin + lane * length; },
+                    at);
             }
         });
 }
@@ -159,15 +178,18 @@ template <Scalar T, int length, class Belongs, int registers>
             T* const begin = to + r * lanes * length;
             if constexpr (hasPackedTransposition<length>) {
                 Register<T> packed[length];
-                forEachConstant<length>([&](auto k) { packed[k] = at(k); });
+                forEachConstant<length>([&](auto k)
+                                            __attribute__((always_inline)) { packed[k] = at(k); });
                 PackedTransposition<length, lanes>::scatter(packed);
-                forEachConstant<length>([&](auto k) {
+                forEachConstant<length>([&](auto k) __attribute__((always_inline)) {
                     constexpr unsigned mask = Belongs::maskOf(k * lanes, (k + 1) * lanes);
                     storeLanesOf<T, lanes, mask>(packed[k], begin + k * lanes);
                 });
             } else {
-                storeRuns<T, length, Belongs>([begin](int lane) { return begin + lane * length; },
-                                              lanes, at);
+                storeRuns<T, length, Belongs>(
+                    [begin](int lane)
+                        __attribute__((always_inline)) { return begin + lane * length; },
+                    lanes, at);
             }
         });
 }
@@ -176,10 +198,12 @@ template <Scalar T, int length, class Belongs, int registers>
 template <int lanes, class Operand>
 [[gnu::always_inline]] inline auto addressesOf(const Operand& operand, std::ptrdiff_t first,
                                                int live) {
-    const auto addressOf = [&](std::ptrdiff_t n) { return operand.object(n, 0)(0, 0).address(); };
+    const auto addressOf = [&](std::ptrdiff_t n) __attribute__((always_inline)) {
+        return operand.object(n, 0)(0, 0).address();
+    };
     auto address = addressOf(first);
     std::array<decltype(address), lanes> addresses;
-    forEachConstant<lanes>([&](auto lane) {
+    forEachConstant<lanes>([&](auto lane) __attribute__((always_inline)) {
         addresses[lane] = address;
         if constexpr (Operand::layout == Layout::L)
             address = addressOf(first + std::min(lane + 1, live - 1));
@@ -203,6 +227,79 @@ template <class T, std::size_t lanes>
     return true;
 }
 
+// Element (i, j) of the part to its place in a block of such a size, or from there.
+template <Part part, int rows, int columns, class Work>
+[[gnu::always_inline]] inline void forEachOf(const Work& work) {
+    forEachConstant<rows>([&](auto i) __attribute__((always_inline)) {
+        forEachConstant<static_cast<int>(columnsOfRow<part>(i, columns))>([&](
+            auto j) __attribute__((always_inline)) { work(i * columns + j); });
+    });
+}
+
+// The objects of one register's lanes, each of contiguous rows. What is not packed all over shares
+// this code.
+template <Part part, Scalar T, int rows, int columns>
+[[gnu::noinline]] void loadObjects(const T* const* objects, bool adjacentRows,
+                                   std::ptrdiff_t stride1, Register<T>* elements) {
+    if (adjacentRows) {
+        loadRuns<T, rows * columns>(
+            [objects](int lane) __attribute__((always_inline)) { return objects[lane]; },
+            [elements](int k) __attribute__((always_inline))->auto& { return elements[k]; });
+        return;
+    }
+    forEachConstant<rows>([&](auto i) __attribute__((always_inline)) {
+        loadRuns<T, columnsOfRow<part>(i, columns)>(
+            [ objects, offset = i * stride1 ](int lane)
+                __attribute__((always_inline)) { return stepped(objects[lane], offset); },
+            [row = elements + i * columns](int j) __attribute__((always_inline))->auto& {
+                return row[j];
+            });
+    });
+}
+
+// The way back, for adjacent rows.
+template <Part part, Scalar T, int rows, int columns>
+[[gnu::noinline]] void storeObjects(T* const* objects, int live, const Register<T>* elements) {
+    storeRuns<T, rows * columns, Belonging<part, rows, columns>>(
+        [objects](int lane) __attribute__((always_inline)) { return objects[lane]; },
+        live, [elements](int k) __attribute__((always_inline)) { return elements[k]; });
+}
+
+// Both for sizes known at run time only, whose elements have their places in a block of packs.
+template <Part part, Scalar T, class At>
+[[gnu::noinline]] void loadObjects(const T* const* objects, bool adjacentRows,
+                                   std::ptrdiff_t stride1, std::ptrdiff_t rows,
+                                   std::ptrdiff_t columns, const At at) {
+    if (adjacentRows) {
+        return loadRuns<T>(
+            [objects](int lane) __attribute__((always_inline)) { return objects[lane]; },
+            static_cast<int>(rows * columns), at);
+    }
+    for (std::ptrdiff_t i = 0; i < rows; ++i) {
+        loadRuns<T>(
+            [ objects, offset = i * stride1 ](int lane)
+                __attribute__((always_inline)) { return stepped(objects[lane], offset); },
+            static_cast<int>(columnsOfRow<part>(i, columns)), at.from(i * columns));
+    }
+}
+
+template <Part part, Scalar T, class At>
+[[gnu::noinline]] void storeObjects(T* const* objects, bool adjacentRows, std::ptrdiff_t stride1,
+                                    std::ptrdiff_t rows, std::ptrdiff_t columns, int live,
+                                    const At at) {
+    if (adjacentRows && part == Part::whole) {
+        return storeRuns<T>(
+            [objects](int lane) __attribute__((always_inline)) { return objects[lane]; },
+            static_cast<int>(rows * columns), live, at);
+    }
+    for (std::ptrdiff_t i = 0; i < rows; ++i) {
+        storeRuns<T>(
+            [ objects, offset = i * stride1 ](int lane)
+                __attribute__((always_inline)) { return stepped(objects[lane], offset); },
+            static_cast<int>(columnsOfRow<part>(i, columns)), live, at.from(i * columns));
+    }
+}
+
 // Rows of contiguous elements, in registers. What lies between the elements of a lower triangle is
 // read with them where rows are adjacent: never on a page that holds none of them.
 template <Part part, class V, class Operand, class Rows, class Columns, class M>
@@ -221,33 +318,16 @@ template <Part part, class V, class Operand, class Rows, class Columns, class M>
     const std::array<const T*, lanes> objects = addressesOf<lanes>(operand, first, live);
     const std::ptrdiff_t stride1 = operand.stride1;
     forEachRegister(
-        block.base, [&](int r, const auto& at) __attribute__((always_inline)) {
-            const auto rowAt = [&](std::ptrdiff_t offset) {
-                return [&objects, r, offset](int lane) {
-                    return stepped(objects[static_cast<std::size_t>(r * laneCount<Pack<T>> + lane)],
-                                   offset);
-                };
-            };
-            const auto inRow = [&](std::ptrdiff_t i) {
-                return [&at, i, columns ](std::ptrdiff_t j) -> auto& {
-                    return at(i * columns + j);
-                };
-            };
+        block.base, [&](auto r, const auto& at) __attribute__((always_inline)) {
+            const T* const* const ofRegister = &objects[r * laneCount<Pack<T>>];
             if constexpr (isFixed<Rows> && isFixed<Columns>) {
-                if (adjacentRows) {
-                    loadRuns<T, rows * columns>(rowAt(0), at);
-                } else {
-                    forEachConstant<rows>([&](auto i) {
-                        loadRuns<T, columnsOfRow<part>(i, columns)>(rowAt(i * stride1), inRow(i));
-                    });
-                }
-            } else if (adjacentRows) {
-                loadRuns<T>(rowAt(0), static_cast<int>(rows * columns), at);
+                Register<T> elements[rows * columns];
+                loadObjects<part, T, rows, columns>(ofRegister, adjacentRows, stride1, elements);
+                forEachOf<part, rows, columns>([&](auto k) __attribute__((always_inline)) {
+                    at(k) = elements[k];
+                });
             } else {
-                for (std::ptrdiff_t i = 0; i < rows; ++i) {
-                    loadRuns<T>(rowAt(i * stride1),
-                                static_cast<int>(columnsOfRow<part>(i, columns)), inRow(i));
-                }
+                loadObjects<part, T>(ofRegister, adjacentRows, stride1, rows, columns, at);
             }
         });
 }
@@ -276,26 +356,17 @@ template <Part part, class V, class Operand, class Rows, class Columns, class M>
         return false;
     }
     forEachRegister(
-        block.base, [&](int r, const auto& at) __attribute__((always_inline)) {
-            const int begin = r * laneCount<Pack<T>>;
-            const auto rowAt = [&](std::ptrdiff_t offset) {
-                return [&objects, begin, offset](int lane) {
-                    return stepped(objects[static_cast<std::size_t>(begin + lane)], offset);
-                };
-            };
+        block.base, [&](auto r, const auto& at) __attribute__((always_inline)) {
+            constexpr int begin = r * laneCount<Pack<T>>;
             if constexpr (isFixedSize) {
-                storeRuns<T, rows * columns, Belonging<part, rows, columns>>(rowAt(0), live - begin,
-                                                                             at);
-            } else if (adjacentRows && part == Part::whole) {
-                storeRuns<T>(rowAt(0), static_cast<int>(rows * columns), live - begin, at);
+                Register<T> elements[rows * columns];
+                forEachOf<part, rows, columns>([&](auto k) __attribute__((always_inline)) {
+                    elements[k] = at(k);
+                });
+                storeObjects<part, T, rows, columns>(&objects[begin], live - begin, elements);
             } else {
-                for (std::ptrdiff_t i = 0; i < rows; ++i) {
-                    storeRuns<T>(
-                        rowAt(i * stride1), static_cast<int>(columnsOfRow<part>(i, columns)),
-                        live - begin, [&](std::ptrdiff_t j) -> auto& {
-                            return at(i * columns + j);
-                        });
-                }
+                storeObjects<part, T>(&objects[begin], adjacentRows, stride1, rows, columns,
+                                      live - begin, at);
             }
         });
     return true;
@@ -364,18 +435,21 @@ void loadLanesInOrder(const Operand& operand, std::ptrdiff_t first, int live, N 
     constexpr int lanes = laneCount<V>;
     if constexpr (Operand::hasContiguousRows && lanes > 1) {
         const std::array<const T*, lanes> objects = addressesOf<lanes>(operand, first, live);
-        forEachRegister(block.base, [&](int r, const auto& at) {
-            for (std::ptrdiff_t i = 0; i < n; ++i) {
-                const auto rowIn = [&](int registerLane) {
-                    const int lane = r * laneCount<Pack<T>> + registerLane;
-                    return stepped(objects[static_cast<std::size_t>(lane)],
-                                   rowOf(lane, i) * operand.stride1);
-                };
-                loadRuns<T>(
-                    rowIn,
-                    static_cast<int>(n), [&](std::ptrdiff_t j) -> auto& { return at(i * n + j); });
-            }
-        });
+        forEachRegister(
+            block.base, [&](int r, const auto& at) __attribute__((always_inline)) {
+                for (std::ptrdiff_t i = 0; i < n; ++i) {
+                    const auto rowIn = [&](int registerLane) __attribute__((always_inline)) {
+                        const int lane = r * laneCount<Pack<T>> + registerLane;
+                        return stepped(objects[static_cast<std::size_t>(lane)],
+                                       rowOf(lane, i) * operand.stride1);
+                    };
+                    loadRuns<T>(
+                        rowIn, static_cast<int>(n),
+                        [&](std::ptrdiff_t j) __attribute__((always_inline))->auto& {
+                            return at(i * n + j);
+                        });
+                }
+            });
         return;
     }
     for (int lane = 0; lane < lanes; ++lane) {
@@ -398,19 +472,22 @@ void storeLanesInOrder(const Operand& operand, std::ptrdiff_t first, int live, N
         const std::array<T*, lanes> objects = addressesOf<lanes>(operand, first, live);
         const std::ptrdiff_t stride1 = operand.stride1;
         if (lieApart(objects, live, spanOfMatrix<T>(stride1, sizeof(T), n, n))) {
-            forEachRegister(block.base, [&](int r, const auto& at) {
-                const int begin = r * laneCount<Pack<T>>;
-                for (std::ptrdiff_t i = 0; i < n; ++i) {
-                    const auto rowIn = [&](int registerLane) {
-                        const int lane = begin + registerLane;
-                        return stepped(objects[static_cast<std::size_t>(lane)],
-                                       rowOf(lane, i) * stride1);
-                    };
-                    storeRuns<T>(
-                        rowIn, static_cast<int>(n),
-                        live - begin, [&](std::ptrdiff_t j) -> auto& { return at(i * n + j); });
-                }
-            });
+            forEachRegister(
+                block.base, [&](int r, const auto& at) __attribute__((always_inline)) {
+                    const int begin = r * laneCount<Pack<T>>;
+                    for (std::ptrdiff_t i = 0; i < n; ++i) {
+                        const auto rowIn = [&](int registerLane) __attribute__((always_inline)) {
+                            const int lane = begin + registerLane;
+                            return stepped(objects[static_cast<std::size_t>(lane)],
+                                           rowOf(lane, i) * stride1);
+                        };
+                        storeRuns<T>(
+                            rowIn, static_cast<int>(n), live - begin,
+                            [&](std::ptrdiff_t j) __attribute__((always_inline))->auto& {
+                                return at(i * n + j);
+                            });
+                    }
+                });
             return;
         }
     }

@@ -77,8 +77,10 @@ struct Group {
     bool isNull() const { return false; }
     bool hasBadSize() const { return false; }
     bool hasBadCount() const { return false; }
-    bool hasBadStride() const { return false; }
+    bool hasBadStride0() const { return false; }
+    bool hasBadInnerStride() const { return false; }
     bool hasBadShift() const { return false; }
+    bool holdsMany() const { return false; }
     bool isContiguous() const { return true; }
     bool canStep(int) const { return true; }
     bool hasAdjacentRows(std::ptrdiff_t) const { return false; }
@@ -106,9 +108,9 @@ struct Strided : Group {
         : base(p), stride0(s0), stride1(s1), stride2(s2) {}
 
     bool isNull() const { return base == nullptr; }
-    bool hasBadStride() const {
-        return (isArray(kind) && isBadStride<T>(stride0)) ||
-               (!isVector(kind) && isBadStride<T>(stride1)) || isBadStride<T>(stride2);
+    bool hasBadStride0() const { return isArray(kind) && isBadStride<T>(stride0); }
+    bool hasBadInnerStride() const {
+        return (!isVector(kind) && isBadStride<T>(stride1)) || isBadStride<T>(stride2);
     }
     bool isContiguous() const { return stride2 == static_cast<std::int32_t>(sizeof(T)); }
 
@@ -151,7 +153,7 @@ struct Pointers : Group {
         : table(pp), shift(byteShift), stride0(s0) {}
 
     bool isNull() const { return table == nullptr; }
-    bool hasBadStride() const { return array && isBadStride<T>(stride0); }
+    bool hasBadStride0() const { return array && isBadStride<T>(stride0); }
     bool hasBadShift() const { return isBadShift<T>(shift); }
     // A thread's share begins at a larger shift, which has to fit its 32 bits.
     bool canStep(int count) const {
@@ -197,7 +199,7 @@ struct List : Group {
         : table(pp), shift(byteShift), stride1(s1), stride2(s2) {}
 
     bool isNull() const { return table == nullptr; }
-    bool hasBadStride() const {
+    bool hasBadInnerStride() const {
         return (!isVector(kind) && isBadStride<T>(stride1)) || isBadStride<T>(stride2);
     }
     bool hasBadShift() const { return isBadShift<T>(shift); }
@@ -236,6 +238,33 @@ struct Plain : Group {
 
     Run<T> object(std::ptrdiff_t n) const {
         return {stepped(base, n * elements * std::ptrdiff_t{sizeof(T)})};
+    }
+};
+
+// Matrices or vectors without any gap, of so many rows and columns each.
+template <class T>
+struct Packed : Group {
+    using Element = T;
+    static constexpr Layout layout = Layout::S;
+    static constexpr bool hasContiguousRows = true;
+    static constexpr bool holdsArray = true;
+    static constexpr std::ptrdiff_t stride2{sizeof(T)};
+
+    T* base;
+    std::ptrdiff_t stride0;
+    std::ptrdiff_t stride1;
+
+    Packed(T* p, std::ptrdiff_t rows, std::ptrdiff_t columns)
+        : base(p), stride0(rows * columns * stride2), stride1(columns * stride2) {}
+
+    bool isNull() const { return base == nullptr; }
+    bool hasAdjacentRows(std::ptrdiff_t /*columns*/) const { return true; }
+    bool hasAdjacentObjects(std::ptrdiff_t /*elements*/) const { return true; }
+
+    Packed contiguous() const { return *this; }
+
+    StridedMatrix<T, true> object(std::ptrdiff_t n, std::ptrdiff_t /*columns*/) const {
+        return {stepped(base, n * stride0), stride1, stride2};
     }
 };
 
@@ -306,12 +335,19 @@ struct Count : Group {
     explicit Count(std::int32_t count) : value(count) {}
 
     bool hasBadCount() const { return value < 1; }
+    bool holdsMany() const { return value > 1; }
     std::tuple<std::uint32_t> sizes() const { return {static_cast<std::uint32_t>(value)}; }
 
     Count contiguous() const { return *this; }
     Count share(const Share& share) const { return Count(share.count); }
     auto arguments() const { return std::tuple(value); }
 };
+
+// Whether an operand is known to be of vectors: pointers don't tell.
+template <class Operand>
+inline constexpr bool holdsVectors = false;
+template <class T, Kind kind, bool contiguousRows>
+inline constexpr bool holdsVectors<Strided<T, kind, contiguousRows>> = isVector(kind);
 
 // Calls an entry or a driver with the arguments that the groups stand for.
 template <class Function, class... Groups>

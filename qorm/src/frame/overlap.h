@@ -58,6 +58,12 @@ RegularSpans spansOf(const Strided<T, kind, contiguousRows>& operand, std::ptrdi
     return {bytesOf(operand.base, bytes), operand.stride0};
 }
 
+template <class T>
+RegularSpans spansOf(const Packed<T>& operand, std::ptrdiff_t /*rows*/,
+                     std::ptrdiff_t /*columns*/) {
+    return {bytesOf(operand.base, operand.stride0), operand.stride0};
+}
+
 template <class T, bool array>
 RegularSpans spansOf(const Pointers<T, array>& operand, std::ptrdiff_t rows,
                      std::ptrdiff_t columns) {

@@ -172,8 +172,9 @@
 
 // QORM_FUNCTION_<destination>_<layout>(name, form, run, ARGUMENTS, ...) is one function of the C
 // interface: its form, the run of its core, and ARGUMENTS(PARAM or GROUP, access, ...), its parameter
-// list. QORM_REORDERED_... is one whose cores have a parameter list of their own, and what a tier
-// defines. Destinations of vectors make no difference.
+// list. QORM_REORDERED_... is one whose cores have a parameter list of their own, and QORM_GENERAL_m_S
+// one whose only core takes rows of any element stride; these are what a tier defines. Destinations of
+// vectors make no difference.
 #define QORM_FUNCTION_m_S(name, form, run, ARGUMENTS, ...) \
     QORM_REORDERED_m_S(name, form, run, ARGUMENTS, ARGUMENTS, __VA_ARGS__)
 #define QORM_FUNCTION_m_P(name, form, run, ARGUMENTS, ...) \

@@ -50,12 +50,32 @@ std::ptrdiff_t peelOf(const T* address) {
                                        sizeof(T));
 }
 
+template <class Lanes>
+[[gnu::always_inline]] inline auto sumOfEight(const Lanes& l) {
+    return ((l[0] + l[4]) + (l[1] + l[5])) + ((l[2] + l[6]) + (l[3] + l[7]));
+}
+
 template <class T, class Vector>
 T sumOfLanes(const Vector& l) {
     if constexpr (sizeof(T) == 4)
-        return ((l[0] + l[4]) + (l[1] + l[5])) + ((l[2] + l[6]) + (l[3] + l[7]));
+        return sumOfEight(l);
     else
         return (l[0] + l[2]) + (l[1] + l[3]);
+}
+
+// At least a block of terms, each of them a number or a pack, summed in blocks of 8 lanes.
+template <class V, class Term, class N>
+[[gnu::always_inline]] inline V sumOfBlocksOf8(const Term& p, N terms) {
+    const V zero(LaneType<V>(0));
+    V l[8];
+    for (int lane = 0; lane < 8; ++lane) l[lane] = zero + p(lane);
+    std::ptrdiff_t k = 8;
+    for (; k + 8 <= terms; k += 8) {
+        for (int lane = 0; lane < 8; ++lane) l[lane] = l[lane] + p(k + lane);
+    }
+    V sum = sumOfEight(l);
+    for (; k < terms; ++k) sum = sum + p(k);
+    return sum;
 }
 
 // The products of two runs, summed in blocks behind `peel` products, whose sum lane 0 begins with.

@@ -37,11 +37,12 @@ template <class Vector, int count, int stages = count>
 [[gnu::always_inline]] inline void transpose(Vector (&vectors)[count]) {
     if constexpr (stages > 1) {
         Vector next[count];
-        forEachConstant<count / 2>([&](auto i) {
+        forEachConstant<count / 2>([&](auto i) __attribute__((always_inline)) {
             next[2 * i] = interleaved<false, count>(vectors[i], vectors[i + count / 2]);
             next[2 * i + 1] = interleaved<true, count>(vectors[i], vectors[i + count / 2]);
         });
-        forEachConstant<count>([&](auto i) { vectors[i] = next[i]; });
+        forEachConstant<count>([&](auto i)
+                                   __attribute__((always_inline)) { vectors[i] = next[i]; });
         transpose<Vector, count, stages / 2>(vectors);
     }
 }
@@ -87,16 +88,21 @@ template <class Vector, int lanes>
     constexpr int width = 16 / sizeof registers[0][0];
     constexpr int blocks = lanes / width;
     Vector byPlace[width][blocks];
-    forEachConstant<blocks>([&](auto block) {
+    forEachConstant<blocks>([&](auto block) __attribute__((always_inline)) {
         Vector group[width];
-        forEachConstant<width>([&](auto i) { group[i] = registers[block * width + i]; });
+        forEachConstant<width>([&](auto i) __attribute__((always_inline)) {
+            group[i] = registers[block * width + i];
+        });
         transpose(group);
-        forEachConstant<width>([&](auto i) { byPlace[i][block] = group[i]; });
+        forEachConstant<width>([&](auto i) __attribute__((always_inline)) {
+            byPlace[i][block] = group[i];
+        });
     });
-    forEachConstant<width>([&](auto i) {
+    forEachConstant<width>([&](auto i) __attribute__((always_inline)) {
         transposeBlocks(byPlace[i]);
-        forEachConstant<blocks>(
-            [&](auto block) { registers[block * width + i] = byPlace[i][block]; });
+        forEachConstant<blocks>([&](auto block) __attribute__((always_inline)) {
+            registers[block * width + i] = byPlace[i][block];
+        });
     });
 }
 
@@ -133,7 +139,7 @@ struct OddTransposition {
     template <int bit, int sign, class Vector>
     [[gnu::always_inline]] static void rotate(Vector (&x)[elements]) {
         Vector next[elements];
-        forEachConstant<elements>([&](auto r) {
+        forEachConstant<elements>([&](auto r) __attribute__((always_inline)) {
             next[r] = [&]<int... lane>(std::integer_sequence<int, lane...>)
                 __attribute__((always_inline)) {
                 return __builtin_shufflevector(
@@ -142,7 +148,7 @@ struct OddTransposition {
             }
             (std::make_integer_sequence<int, lanes>());
         });
-        forEachConstant<elements>([&](auto r) { x[r] = next[r]; });
+        forEachConstant<elements>([&](auto r) __attribute__((always_inline)) { x[r] = next[r]; });
     }
 
     template <class Vector>
@@ -152,7 +158,7 @@ struct OddTransposition {
         rotate<4, 1>(x);
         rotate<8, 1>(x);
         Vector gathered[elements];
-        forEachConstant<elements>([&](auto p) {
+        forEachConstant<elements>([&](auto p) __attribute__((always_inline)) {
             gathered[p] = [&]<int... l>(std::integer_sequence<int, l...>)
                 __attribute__((always_inline)) {
                 const Vector& from = x[registerOf(p)];
@@ -160,20 +166,22 @@ struct OddTransposition {
             }
             (std::make_integer_sequence<int, lanes>());
         });
-        forEachConstant<elements>([&](auto p) { x[p] = gathered[p]; });
+        forEachConstant<elements>([&](auto p)
+                                      __attribute__((always_inline)) { x[p] = gathered[p]; });
     }
 
     template <class Vector>
     [[gnu::always_inline]] static void scatter(Vector (&x)[elements]) {
         Vector scattered[elements];
-        forEachConstant<elements>([&](auto p) {
+        forEachConstant<elements>([&](auto p) __attribute__((always_inline)) {
             scattered[registerOf(p)] = [&]<int... lane>(std::integer_sequence<int, lane...>)
                 __attribute__((always_inline)) {
                 return __builtin_shufflevector(x[p], x[p], objectIn(p, lane)...);
             }
             (std::make_integer_sequence<int, lanes>());
         });
-        forEachConstant<elements>([&](auto p) { x[p] = scattered[p]; });
+        forEachConstant<elements>([&](auto p)
+                                      __attribute__((always_inline)) { x[p] = scattered[p]; });
         rotate<8, -1>(x);
         rotate<4, -1>(x);
         rotate<2, -1>(x);
@@ -200,11 +208,12 @@ struct HalvingTransposition {
     [[gnu::always_inline]] static void gather(Vector (&x)[elements]) {
         if constexpr (rounds > 1) {
             Vector next[elements];
-            forEachConstant<half>([&](auto r) {
+            forEachConstant<half>([&](auto r) __attribute__((always_inline)) {
                 next[r] = parted<false>(x[2 * r], x[2 * r + 1]);
                 next[r + half] = parted<true>(x[2 * r], x[2 * r + 1]);
             });
-            forEachConstant<elements>([&](auto r) { x[r] = next[r]; });
+            forEachConstant<elements>([&](auto r)
+                                          __attribute__((always_inline)) { x[r] = next[r]; });
             gather<Vector, rounds / 2>(x);
         }
     }
@@ -213,11 +222,12 @@ struct HalvingTransposition {
     [[gnu::always_inline]] static void scatter(Vector (&x)[elements]) {
         if constexpr (rounds > 1) {
             Vector next[elements];
-            forEachConstant<half>([&](auto r) {
+            forEachConstant<half>([&](auto r) __attribute__((always_inline)) {
                 next[2 * r] = interleaved<false, lanes>(x[r], x[r + half]);
                 next[2 * r + 1] = interleaved<true, lanes>(x[r], x[r + half]);
             });
-            forEachConstant<elements>([&](auto r) { x[r] = next[r]; });
+            forEachConstant<elements>([&](auto r)
+                                          __attribute__((always_inline)) { x[r] = next[r]; });
             scatter<Vector, rounds / 2>(x);
         }
     }

@@ -3,8 +3,8 @@
 // what lies in memory. That needs permutations of any lanes of two registers, as AVX-512 has them.
 #pragma once
 
+#include "frame/gathering.h"
 #include "frame/runs.h"
-#include "frame/transposition.h"
 #include "products/shape.h"
 
 #include <algorithm>
@@ -15,53 +15,12 @@ namespace qorm::products {
 
 // Larger ones are done faster row by row.
 template <class T, int n>
-inline constexpr bool fitsRegister =
-#if defined(QORM_AVX512)
-    n* n <= laneCount<Pack<T>>;
-#else
-    false;
-#endif
+inline constexpr bool fitsRegister = hasGathering&& n* n <= laneCount<Pack<T>>;
 
 // How many packed objects make a block, so that its elements nearly fill its registers.
 template <class T, int n>
 constexpr int densestBlock() {
     return n == 3 ? 7 : laneCount<Pack<T>> / (n * n);
-}
-
-// Where the lanes of a register come from: of each lane the run in memory and its place therein.
-template <int lanes>
-struct Origin {
-    static constexpr int mostRuns = 5;
-
-    int runs[mostRuns];
-    int count;
-    std::array<int, lanes> runOf;
-    std::array<int, lanes> placeOf;
-};
-
-// The origin of wanted elements out of `all`, in as few runs as can be. Two runs at whole registers
-// are preferred, since other terms share them.
-template <int lanes>
-constexpr Origin<lanes> originOf(const std::array<int, lanes>& wanted, int all) {
-    const int lastRun = std::max(all - lanes, 0);
-    const int lowest = *std::min_element(wanted.begin(), wanted.end());
-    const int highest = *std::max_element(wanted.begin(), wanted.end());
-    const bool isAligned = highest < lowest / lanes * lanes + 2 * lanes;
-    Origin<lanes> origin{};
-    for (int next = lowest; next < all;) {
-        int& run = origin.runs[origin.count];
-        run = std::min(isAligned ? next / lanes * lanes : next, lastRun);
-        next = all;
-        for (std::size_t lane = 0; lane < lanes; ++lane) {
-            const int element = wanted[lane];
-            if (element >= run + lanes) next = std::min(next, element);
-            if (element < run || element >= run + lanes) continue;
-            origin.runOf[lane] = origin.count;
-            origin.placeOf[lane] = element - run;
-        }
-        ++origin.count;
-    }
-    return origin;
 }
 
 // The product of a block. Kinds tell how the operands are stored, and whether they are single.
@@ -113,37 +72,10 @@ public:
     template <bool second, int which, int k>
     [[gnu::always_inline]] static V term(const T* operand) {
         constexpr int all = isArray(second ? kind2 : kind1) ? elements : n * n;
-        constexpr Origin<lanes> origin = originOf<lanes>(elementsOfTerm<second>(which, k), all);
-        const auto run = [&](auto index) {
-            return loadRun<std::min(all, lanes)>(operand + origin.runs[index]);
-        };
-        V gathered = run(std::integral_constant<int, 0>());
-        if constexpr (origin.count == 1) gathered = gather<origin, 0>(gathered, gathered);
-        forEachConstant<origin.count - 1>([&](auto before) {
-            constexpr int next = before + 1;
-            gathered = gather<origin, next>(gathered, run(std::integral_constant<int, next>()));
-        });
-        return gathered;
+        return gatherElements<T, elementsOfTerm<second>(which, k), all>(operand);
     }
 
 private:
-    // The lanes that come from run `index`, put to what is gathered from the runs before it.
-    template <Origin<lanes> origin, int index>
-    [[gnu::always_inline]] static V gather(const V& before, const V& run) {
-        constexpr auto sourceOf = [](std::size_t lane) {
-            if (origin.runOf[lane] == index)
-                return index == 0 ? origin.placeOf[lane] : lanes + origin.placeOf[lane];
-            return index == 1 ? origin.placeOf[lane] : static_cast<int>(lane);
-        };
-        return [&]<std::size_t... lane>(std::index_sequence<lane...>) {
-            V gathered;
-            gathered.lanes[0] =
-                __builtin_shufflevector(before.lanes[0], run.lanes[0], sourceOf(lane)...);
-            return gathered;
-        }
-        (std::make_index_sequence<lanes>());
-    }
-
     template <bool second>
     static constexpr std::array<int, lanes> elementsOfTerm(int which, int k) {
         constexpr Kind kind = second ? kind2 : kind1;

@@ -6,8 +6,8 @@
 #pragma once
 
 #include "frame/entry.h"
-#include "frame/loaded.h"
-#include "frame/overlap.h"
+#include "frame/known_sizes.h"
+#include "frame/light_blocks.h"
 #include "frame/summation.h"
 
 // name, the kinds of the matrix, the vector and the destination, type, layout
@@ -62,6 +62,9 @@ constexpr Form<MatrixVectorMeasure> formOfMatrixVector(Kind matrix, Kind vector,
             .generalThreshold = general,
             .sizesMatch = transposed ? vectorFits<true> : vectorFits<false>};
 }
+
+// How sums are made: from left to right; squares of 4 to 6 with four terms in pairs; others in blocks.
+enum class Sums { chain, pairs, blocks };
 
 // The matrices of a call as the shape's letter reads them. What is added to the products, if anything,
 // is `addend`.
@@ -194,54 +197,98 @@ void multiplyLarge(const S& s, std::ptrdiff_t first, std::ptrdiff_t count) {
     }
 }
 
-// Objects first .. first + live - 1, an object in each lane. `inPairs` is how sums are made.
-template <class V, bool inPairs, class S, class Rows, class Terms>
-[[gnu::flatten]] qorStatus multiplyBlock(const S s, std::ptrdiff_t first, int live, Rows rows,
-                                         Terms terms) {
+// One object of contiguous rows, each summed in blocks: all of them from its begin where operands are
+// aligned.
+template <class S>
+void multiplyOneInBlocks(const S& s, std::ptrdiff_t object, bool aligned) {
     using T = typename S::T;
-    if constexpr (laneCount<V> == 1 && hasOwnPath<Rows> && !inPairs) {
-        multiplyOneKnown(s, first, rows);
-    } else if constexpr (laneCount<V> == 1 && !hasOwnPath<Rows>) {
-        multiplyOne(s, first);
-    } else {
-        const auto width = isTransposed(S::kind) ? rows : terms;
-        const auto height = isTransposed(S::kind) ? terms : rows;
-        constexpr bool matrixIsArray = decltype(s.matrix)::holdsArray;
-        using X = std::conditional_t<decltype(s.x)::holdsArray, V, T>;
-        Loaded<V, decltype(width)> matrices(width);
-        if constexpr (matrixIsArray) {
-            loadLanes(s.matrix, first, live, height, width, matrices.matrix());
-        }
-        LoadedVector<X, Terms> x;
-        x.load(s.x, first, std::is_same_v<X, T> ? 1 : live, terms);
-        const auto a = [&] {
-            if constexpr (matrixIsArray)
-                return asRead<S::kind>(matrices.matrix());
-            else
-                return s.matrixOf(0);
-        }();
-        const auto element = [&](std::ptrdiff_t i, std::ptrdiff_t k) {
-            if constexpr (matrixIsArray)
-                return V(a(i, k));
-            else
-                return V(T(a(i, k)));
-        };
-        LoadedVector<V, Rows> sums;
-        for (std::ptrdiff_t i = 0; i < rows; ++i) {
-            const auto p = [&](std::ptrdiff_t k) { return element(i, k) * V(x(k)); };
-            if constexpr (inPairs && largestSize < Terms >> 3)
-                sums(i) = sumOfPairs<V>(p, terms);
-            else
-                sums(i) = sumOfChain<hasOwnPath<Rows>, V>(p, terms);
-        }
-        if constexpr (isAdded<decltype(s.addend)>) {
-            LoadedVector<V, Rows> addends;
-            addends.load(s.addend, first, live, rows);
-            for (std::ptrdiff_t i = 0; i < rows; ++i) sums(i) = sums(i) + addends(i);
-        }
-        sums.store(s.dst, first, live, rows);
+    const auto a = s.matrixOf(object);
+    const T* const x = vectorOf(s.x, object, s.terms())(0).address();
+    const auto y = vectorOf(s.dst, object, s.rows());
+    for (std::ptrdiff_t i = 0; i < s.rows(); ++i) {
+        const T* const row = a(i, 0).address();
+        y(i) = 0;
+        y(i) = aligned ? sumOfBlocks(row, x, s.terms(), 0) : sumOfProducts(row, x, s.terms());
     }
-    return qorStatusOk;
+}
+
+template <Sums sums, class V, class Term, class N>
+[[gnu::always_inline]] inline V sumInLanes(const Term& p, N terms) {
+    if constexpr (sums == Sums::pairs && largestSize<N> != 3)
+        return sumOfPairs<V>(p, terms);
+    else if constexpr (sums == Sums::blocks)
+        return sumOfBlocksOf8<V>(p, terms);
+    else
+        return sumOfChain<hasOwnPath<N>, V>(p, terms);
+}
+
+// Objects first .. first + live - 1, an object in each lane.
+template <Sums sums, class V, class S, class Rows, class Terms>
+[[gnu::always_inline]] inline void multiplyLanes(const S& s, std::ptrdiff_t first, int live,
+                                                 Rows rows, Terms terms) {
+    using T = typename S::T;
+    const auto width = [&] {
+        if constexpr (isTransposed(S::kind))
+            return rows;
+        else
+            return terms;
+    }();
+    constexpr bool matrixIsArray = decltype(s.matrix)::holdsArray;
+    using X = std::conditional_t<decltype(s.x)::holdsArray, V, T>;
+    Loaded<V, decltype(width)> matrices(width);
+    if constexpr (matrixIsArray) {
+        const auto height = [&] {
+            if constexpr (isTransposed(S::kind))
+                return terms;
+            else
+                return rows;
+        }();
+        loadLanes(s.matrix, first, live, height, width, matrices.matrix());
+    }
+    const auto x = loadVectors<X>(s.x, first, live, terms);
+    const auto a = [&] {
+        if constexpr (matrixIsArray)
+            return asRead<S::kind>(matrices.matrix());
+        else
+            return s.matrixOf(0);
+    }();
+    const auto element = [&](std::ptrdiff_t i, std::ptrdiff_t k) __attribute__((always_inline)) {
+        if constexpr (matrixIsArray)
+            return V(a(i, k));
+        else
+            return V(T(a(i, k)));
+    };
+    V results[largestSize<Rows>];
+    for (std::ptrdiff_t i = 0; i < rows; ++i) {
+        results[i] = sumInLanes<sums, V>(
+            [&](std::ptrdiff_t k)
+                __attribute__((always_inline)) { return element(i, k) * V(x(k)); },
+            terms);
+    }
+    if constexpr (isAdded<decltype(s.addend)>) {
+        const auto addends = loadVectors<V>(s.addend, first, live, rows);
+        for (std::ptrdiff_t i = 0; i < rows; ++i) results[i] = results[i] + addends(i);
+    }
+    storeLanes(s.dst, first, live, Fixed<1>(), rows, PackMatrix<V, Rows>{results, rows});
+}
+
+template <Sums sums, class V, class S, class Rows, class Terms>
+[[gnu::flatten]] void multiplyBlocks(const S s, std::ptrdiff_t first, int live,
+                                     std::ptrdiff_t blocks, Rows rows, Terms terms) {
+    constexpr bool isOne = laneCount<V> == 1;
+    if constexpr (!isOne || sums == Sums::pairs) {
+        forEachBlock<V>(
+            first, live,
+            blocks, [&](std::ptrdiff_t object, int liveLanes) __attribute__((always_inline)) {
+                multiplyLanes<sums, V>(s, object, liveLanes, rows, terms);
+            });
+    } else if constexpr (sums == Sums::blocks) {
+        multiplyOneInBlocks(s, first, true);
+    } else if constexpr (hasOwnPath<Rows>) {
+        multiplyOneKnown(s, first, rows);
+    } else {
+        multiplyOne(s, first);
+    }
 }
 
 template <class S>
@@ -261,20 +308,42 @@ auto guardOf(const S& s, std::ptrdiff_t count) {
         return AllOf(matrix, x);
 }
 
-template <bool inPairs = false, class S>
+// Whether no object of the destination lies over any of a source.
+template <class S>
+bool areSourcesApart(const S& s, std::ptrdiff_t count) {
+    constexpr int lanes = laneCount<Pack<typename S::T>>;
+    const auto isApart = [&](const auto& operand, Extent extent) {
+        return areSurelyApart(spansOf(operand, extent.rows, extent.columns),
+                              spansOf(s.dst, 1, s.rows()), count);
+    };
+    const bool addendIsApart = [&] {
+        if constexpr (isAdded<decltype(s.addend)>)
+            return isApart(s.addend, {1, s.rows()});
+        else
+            return true;
+    }();
+    return addendIsApart && isApart(s.matrix, s.stored) && isApart(s.x, {1, s.terms()}) &&
+           hasDistinctElements(s.dst, 1, s.rows(), lanes);
+}
+
+template <Sums sums = Sums::chain, class S>
 qorStatus multiplySystems(const S& s, std::ptrdiff_t count) {
     using T = typename S::T;
-    constexpr bool holdsArray = decltype(s.dst)::holdsArray;
-    if constexpr (holdsArray) {
+    using D = decltype(s.dst);
+    if constexpr (D::holdsArray) {
         if (std::max(s.rows(), s.terms()) <= mostLaneSize) {
             const auto guard = guardOf(s, count);
-            return withStaticSquare(s.terms(), s.rows(), [&](auto terms, auto rows) {
-                if constexpr (inPairs && !hasOwnPath<decltype(rows)>)
+            const bool apart = areSourcesApart(s, count);
+            return withKnownSquare<D>(s.terms(), s.rows(), [&](auto terms, auto rows) {
+                constexpr bool isOther =
+                    sums != Sums::chain && hasOwnPath<decltype(rows)> != (sums == Sums::pairs);
+                if constexpr (isOther)
                     return qorStatus{qorStatusOk};
                 else
-                    return inLanes<Pack<T>>(
-                        guard, count, [&]<class V>(std::ptrdiff_t first, int live) {
-                            return multiplyBlock<V, inPairs>(s, first, live, rows, terms);
+                    return inManyLanes<Pack<T>>(
+                        apart, guard, count,
+                        [&]<class V>(std::ptrdiff_t first, int live, std::ptrdiff_t blocks) {
+                            multiplyBlocks<sums, V>(s, first, live, blocks, rows, terms);
                         });
             });
         }
@@ -306,19 +375,14 @@ qorStatus multiplyByAlignment(const S& s, std::ptrdiff_t count) {
                           stride(s.x.stride0), address(s.dst.base), stride(s.dst.stride0)});
     const std::ptrdiff_t terms = s.terms();
     if (s.rows() == terms && isUnrolled(terms)) {
-        return aligned && terms > 3 ? multiplySystems<true>(s, count) : multiplySystems(s, count);
+        return aligned && terms > 3 ? multiplySystems<Sums::pairs>(s, count)
+                                    : multiplySystems(s, count);
     }
     if (terms < (aligned ? termsOfBlock : leastForBlocks<float>)) return multiplySystems(s, count);
-    for (std::ptrdiff_t n = 0; n < count; ++n) {
-        const auto a = s.matrixOf(n);
-        const float* const x = vectorOf(s.x, n, terms)(0).address();
-        const auto y = vectorOf(s.dst, n, s.rows());
-        for (std::ptrdiff_t i = 0; i < s.rows(); ++i) {
-            const float* const row = a(i, 0).address();
-            y(i) = 0;
-            y(i) = aligned ? sumOfBlocks(row, x, terms, 0) : sumOfProducts(row, x, terms);
-        }
+    if (aligned && std::max(s.rows(), terms) <= mostLaneSize) {
+        return multiplySystems<Sums::blocks>(s, count);
     }
+    for (std::ptrdiff_t n = 0; n < count; ++n) multiplyOneInBlocks(s, n, aligned);
     return qorStatusOk;
 }
 

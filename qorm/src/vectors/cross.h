@@ -2,6 +2,9 @@
 #pragma once
 
 #include "frame/entry.h"
+#include "frame/gathering.h"
+#include "frame/known_sizes.h"
+#include "frame/light_blocks.h"
 #include "frame/loaded.h"
 #include "frame/overlap.h"
 
@@ -79,19 +82,106 @@ template <class V, class A, class B, class D>
 }
 
 template <class A, class B, class D>
-qorStatus vectorProducts(const A& src1, const B& src2, const D& dst, Count countOf = Count(1)) {
+qorStatus vectorProductsInLanes(const A& src1, const B& src2, const D& dst, std::ptrdiff_t count) {
     using T = typename D::Element;
-    if constexpr (D::holdsArray) {
-        const std::ptrdiff_t count = countOf.value;
-        const auto guardOf = [&](const auto& operand) {
-            return readAheadOf(Sharing::any, operand, {1, 3}, dst, {1, 3}, count,
-                               laneCount<Pack<T>>);
+    const auto guardOf = [&](const auto& operand) {
+        return readAheadOf(Sharing::any, operand, {1, 3}, dst, {1, 3}, count, laneCount<Pack<T>>);
+    };
+    return inLanes<Pack<T>>(AllOf(guardOf(src1), guardOf(src2)), count,
+                            [&]<class V>(std::ptrdiff_t first, int live) {
+                                return multiplyBlock<V>(src1, src2, dst, first, live);
+                            });
+}
+
+// Gap-free vectors: registers run along the elements of the result, as many objects to a block as a
+// register has lanes. Each factor is a permutation of what lies in memory; a single vector's are
+// permuted once.
+template <class T>
+struct PackedProducts {
+    using V = Pack<T>;
+    static constexpr int lanes = laneCount<V>;
+    static constexpr int registers = 3;
+
+    static constexpr auto wantedIn(int which, int step, bool fromArray) {
+        std::array<int, lanes> wanted{};
+        for (int lane = 0; lane < lanes; ++lane) {
+            const int element = which * lanes + lane;
+            const int begin = fromArray ? element / 3 * 3 : 0;
+            wanted[static_cast<std::size_t>(lane)] = begin + (element + step) % 3;
+        }
+        return wanted;
+    }
+
+    // Elements i + 1 or i + 2, cyclically, of each vector's place i.
+    struct Factors {
+        V next[registers];
+        V afterNext[registers];
+    };
+
+    template <bool array>
+    [[gnu::always_inline]] static Factors factorsOf(const T* vectors) {
+        constexpr int all = array ? registers * lanes : 3;
+        Factors factors;
+        forEachConstant<registers>([&](auto which) __attribute__((always_inline)) {
+            factors.next[which] = gatherElements<T, wantedIn(which, 1, array), all>(vectors);
+            factors.afterNext[which] = gatherElements<T, wantedIn(which, 2, array), all>(vectors);
+        });
+        return factors;
+    }
+
+    template <bool firstIsArray, bool secondIsArray>
+    static void multiply(const T* first, const T* second, T* dst, std::ptrdiff_t blocks) {
+        constexpr std::ptrdiff_t elements = registers * lanes;
+        const auto blocksOf = []<bool array>(const T* vectors, std::bool_constant<array>)
+            __attribute__((always_inline)) {
+            if constexpr (array) return [=](std::ptrdiff_t block) __attribute__((always_inline)) {
+                    return factorsOf<true>(vectors + block * elements);
+                };
+            else
+                return [factors = factorsOf<false>(vectors)](std::ptrdiff_t) { return factors; };
         };
-        return inLanes<Pack<T>>(AllOf(guardOf(src1), guardOf(src2)), count,
-                                [&]<class V>(std::ptrdiff_t first, int live) {
-                                    return multiplyBlock<V>(src1, src2, dst, first, live);
-                                });
+        const auto a = blocksOf(first, std::bool_constant<firstIsArray>());
+        const auto b = blocksOf(second, std::bool_constant<secondIsArray>());
+        for (std::ptrdiff_t block = 0; block < blocks; ++block) {
+            const Factors x = a(block);
+            const Factors y = b(block);
+            forEachConstant<registers>([&](auto r) __attribute__((always_inline)) {
+                storeRun(dst + block * elements + r * lanes,
+                         x.next[r] * y.afterNext[r] - x.afterNext[r] * y.next[r]);
+            });
+        }
+    }
+};
+
+// How many objects have been done, gap-free ones that lie apart.
+template <class A, class B, class D>
+std::ptrdiff_t multiplyPacked(const A& src1, const B& src2, const D& dst, std::ptrdiff_t count) {
+    if constexpr (hasGathering && isFastest<A> && isFastest<B> && isFastest<D>) {
+        using Products = PackedProducts<typename D::Element>;
+        const auto isPackedApart = [&](const auto& src) {
+            return (!src.holdsArray || src.hasAdjacentObjects(3)) &&
+                   areSurelyApart(spansOf(src, 1, 3), spansOf(dst, 1, 3), count);
+        };
+        if (!dst.hasAdjacentObjects(3) || !isPackedApart(src1) || !isPackedApart(src2)) return 0;
+        const std::ptrdiff_t blocks = count / Products::lanes;
+        Products::template multiply<A::holdsArray, B::holdsArray>(src1.base, src2.base, dst.base,
+                                                                  blocks);
+        return blocks * Products::lanes;
     } else {
+        return 0;
+    }
+}
+
+template <class A, class B, class D>
+qorStatus vectorProducts(const A& src1, const B& src2, const D& dst, Count countOf = Count(1)) {
+    if constexpr (D::holdsArray) {
+        const std::ptrdiff_t done = multiplyPacked(src1, src2, dst, countOf.value);
+        if (done == countOf.value) return qorStatusOk;
+        const Share rest = {0, static_cast<int>(done), 0, nullptr};
+        return vectorProductsInLanes(src1.share(rest), src2.share(rest), dst.share(rest),
+                                     countOf.value - done);
+    } else {
+        using T = typename D::Element;
         const auto a = vectorOf(src1, 0, 3);
         const auto b = vectorOf(src2, 0, 3);
         const auto d = vectorOf(dst, 0, 3);

@@ -1,0 +1,6 @@
+// Cores: frobenius norms of arrays of matrices.
+#include "frame/cores.h"
+#include "measures/frob_norm.h"
+#include "qorm/frobnorm.h"
+
+#include "measures/qormfrobnorm_ma.def"

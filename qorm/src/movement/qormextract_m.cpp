@@ -1,0 +1,6 @@
+// Entry functions, which do the work themselves: extracts of matrices.
+#include "frame/direct.h"
+#include "movement/extract.h"
+#include "qorm/extract.h"
+
+#include "movement/qormextract_m.def"

@@ -1,0 +1,6 @@
+// Cores: transposes of arrays of matrices.
+#include "frame/cores.h"
+#include "movement/transpose.h"
+#include "qorm/transpose.h"
+
+#include "movement/qormtranspose_ma.def"

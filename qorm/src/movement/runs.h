@@ -1,0 +1,239 @@
+// Moves between matrices whose rows are contiguous: runs of elements, or blocks transposed in
+// registers. Source and destination of an object are apart.
+#pragma once
+
+#include "frame/gathering.h"
+#include "frame/static_size.h"
+#include "movement/in_order.h"
+
+#include <numeric>
+#include <optional>
+
+namespace qorm::movement {
+
+// The C library is faster from here on.
+inline constexpr std::ptrdiff_t longRun = 256;
+
+template <class T>
+[[gnu::always_inline]] inline void moveRun(const T* from, T* to, std::ptrdiff_t elements) {
+    constexpr int lanes = laneCount<Pack<T>>;
+    if (elements >= longRun) {
+        std::memcpy(to, from, static_cast<std::size_t>(elements) * sizeof(T));
+        return;
+    }
+    for (; elements > lanes; elements -= lanes, from += lanes, to += lanes) {
+        storeRun(to, loadRun(from));
+    }
+    storeRun(to, loadRun(from, static_cast<int>(elements)), static_cast<int>(elements));
+}
+
+template <class T>
+[[gnu::always_inline]] inline void moveRows(const StridedMatrix<const T, true>& from,
+                                            const StridedMatrix<T, true>& to, const Extent& result,
+                                            bool adjacentRows) {
+    if (adjacentRows) return moveRun(from.base, to.base, result.rows * result.columns);
+    for (std::ptrdiff_t i = 0; i < result.rows; ++i) {
+        moveRun(from(i, 0).address(), to(i, 0).address(), result.columns);
+    }
+}
+
+// Squares of this size in gap-free blocks, whose registers are permuted.
+template <class T, int n>
+inline constexpr bool isTransposedByGathering = hasGathering&& n* n <= 4 * laneCount<Pack<T>> &&
+                                                (n <= 6 || sizeof(T) == 4);
+
+// As few objects as fill whole registers.
+template <class T, int n>
+inline constexpr int objectsOfWholeRegisters = laneCount<Pack<T>> /
+                                               std::gcd(n* n, laneCount<Pack<T>>);
+
+template <class T, int n, int objects>
+[[gnu::always_inline]] inline void transposePacked(const T* from, T* to) {
+    constexpr int lanes = laneCount<Pack<T>>;
+    constexpr int elements = objects * n * n;
+    constexpr auto wantedIn = [](int which) {
+        std::array<int, lanes> wanted{};
+        for (int lane = 0; lane < lanes; ++lane) {
+            const int k = std::min(which * lanes + lane, elements - 1);
+            const int begin = k / (n * n) * n * n;
+            wanted[static_cast<std::size_t>(lane)] = begin + (k - begin) % n * n + (k - begin) / n;
+        }
+        return wanted;
+    };
+    forEachConstant<(elements + lanes - 1) / lanes>([&](auto which) __attribute__((always_inline)) {
+        constexpr int begin = which * lanes;
+        storeRun<std::min(lanes, elements - begin)>(
+            to + begin, gatherElements<T, wantedIn(which), elements>(from));
+    });
+}
+
+// Gap-free objects of at most two registers, by a table of lanes that is made at run time.
+template <class T>
+struct PermutedTranspose {
+    static constexpr int lanes = laneCount<Pack<T>>;
+    using Index = std::conditional_t<sizeof(T) == 4, std::int32_t, std::int64_t>;
+
+    int elements;
+    Index sources[2 * lanes] = {};
+
+    static bool isFor(const Extent& result) {
+        return hasGathering && result.rows * result.columns <= 2 * lanes;
+    }
+
+    explicit PermutedTranspose(const Extent& result)
+        : elements(static_cast<int>(result.rows * result.columns)) {
+        for (std::ptrdiff_t k = 0; k < elements; ++k) {
+            const std::ptrdiff_t i = k / result.columns;
+            const std::ptrdiff_t j = k % result.columns;
+            sources[k] = static_cast<Index>(j * result.rows + i);
+        }
+    }
+
+    [[gnu::always_inline]] void operator()(const T* from, T* to) const {
+        if constexpr (hasGathering) {
+            if (elements <= lanes) {
+                const Pack<T> all = loadRun(from, elements);
+                storeRun(to, permuted(all, all, sources), elements);
+            } else {
+                const Pack<T> first = loadRun(from);
+                const Pack<T> second = loadRun(from + lanes, elements - lanes);
+                storeRun(to, permuted(first, second, sources));
+                storeRun(to + lanes, permuted(first, second, sources + lanes), elements - lanes);
+            }
+        }
+    }
+};
+
+// Square tiles of as many rows as a register has lanes.
+template <class T>
+void transposeByTiles(const StridedMatrix<const T, true>& from, const StridedMatrix<T, true>& to,
+                      const Extent& result) {
+    constexpr std::ptrdiff_t lanes = laneCount<Pack<T>>;
+    for (std::ptrdiff_t j = 0; j < result.columns; j += lanes) {
+        const std::ptrdiff_t sourceRows = std::min(lanes, result.columns - j);
+        for (std::ptrdiff_t i = 0; i < result.rows; i += lanes) {
+            const int sourceColumns = static_cast<int>(std::min(lanes, result.rows - i));
+            Pack<T> tile[lanes];
+            for (std::ptrdiff_t row = 0; row < lanes; ++row) {
+                const T* const begin = from(j + std::min(row, sourceRows - 1), i).address();
+                tile[row] = sourceColumns == lanes ? loadRun(begin) : loadRun(begin, sourceColumns);
+            }
+            transposeRegisters(reinterpret_cast<Register<T>(&)[lanes]>(tile));
+            for (std::ptrdiff_t row = 0; row < sourceColumns; ++row) {
+                T* const begin = to(i + row, j).address();
+                if (sourceRows == lanes)
+                    storeRun(begin, tile[row]);
+                else
+                    storeRun(begin, tile[row], static_cast<int>(sourceRows));
+            }
+        }
+    }
+}
+
+template <class T, class N>
+[[gnu::always_inline]] inline void transposeRows(const StridedMatrix<const T, true>& from,
+                                                 const StridedMatrix<T, true>& to,
+                                                 const Extent& result, bool adjacentRows, N n,
+                                                 const std::optional<PermutedTranspose<T>>& small) {
+    constexpr std::ptrdiff_t leastForTiles = 8;
+    if constexpr (isFixed<N>) {
+        if constexpr (isTransposedByGathering<T, n>) {
+            if (adjacentRows) return transposePacked<T, n, 1>(from.base, to.base);
+        }
+        forEachConstant<n>([&](auto i) {
+            forEachConstant<n>([&](auto j) { moveElement(from(j, i), to(i, j)); });
+        });
+    } else if (adjacentRows && small) {
+        (*small)(from.base, to.base);
+    } else if (std::min(result.rows, result.columns) >= leastForTiles) {
+        transposeByTiles(from, to, result);
+    } else {
+        moveObjectInOrder(Transposed{from}, to, result, false);
+    }
+}
+
+// For many objects of sizes that have no code of their own.
+template <class T>
+std::optional<PermutedTranspose<T>> permutedTransposeFor(const Extent& result,
+                                                         std::ptrdiff_t count) {
+    if (count > 1 && PermutedTranspose<T>::isFor(result)) return PermutedTranspose<T>(result);
+    return std::nullopt;
+}
+
+// work(n) with a constant for squares that are transposed by straight-line code.
+template <class Work>
+void withTransposedSize(const Extent& result, const Work& work) {
+    const std::ptrdiff_t n = result.rows == result.columns ? result.rows : 0;
+    if (n == 2) return work(Fixed<2>());
+    if (n == 8) return work(Fixed<8>());
+    withStaticSize(n, work);
+}
+
+// Objects that are apart all by all of regular operands may be moved in any grouping.
+template <Reading reading, class Src, class Dst>
+void moveRegularRuns(const Src& src, const Dst& dst, const Extent& result, std::ptrdiff_t count) {
+    using T = typename Dst::Element;
+    const std::ptrdiff_t elements = result.rows * result.columns;
+    const std::ptrdiff_t storedColumns =
+        reading == Reading::transposed ? result.rows : result.columns;
+    const bool adjacentRows =
+        src.hasAdjacentRows(storedColumns) && dst.hasAdjacentRows(result.columns);
+    const bool packed =
+        adjacentRows && src.hasAdjacentObjects(elements) && dst.hasAdjacentObjects(elements);
+    const auto from = [&](std::ptrdiff_t n) { return src.object(n, storedColumns); };
+    const auto to = [&](std::ptrdiff_t n) { return dst.object(n, result.columns); };
+    if constexpr (reading == Reading::asStored) {
+        if (packed) return moveRun(from(0).base, to(0).base, elements * count);
+        for (std::ptrdiff_t n = 0; n < count; ++n) moveRows(from(n), to(n), result, adjacentRows);
+    } else {
+        withTransposedSize(result, [&](auto size) {
+            std::ptrdiff_t n = 0;
+            if constexpr (isFixed<decltype(size)>) {
+                if constexpr (isTransposedByGathering<T, size>) {
+                    constexpr int objects = objectsOfWholeRegisters<T, size>;
+                    const T* const begin = from(0).base;
+                    T* const result0 = to(0).base;
+                    for (; packed && n + objects <= count; n += objects) {
+                        transposePacked<T, size, objects>(begin + n * elements,
+                                                          result0 + n * elements);
+                    }
+                }
+            }
+            const auto small = permutedTransposeFor<T>(result, count);
+            for (; n < count; ++n) {
+                transposeRows(from(n), to(n), result, adjacentRows, size, small);
+            }
+        });
+    }
+}
+
+// Object by object, each by runs if it is apart from its source, else element by element.
+template <Reading reading, class Src, class Dst>
+void moveObjectRuns(const Src& src, const Dst& dst, const Extent& result, std::ptrdiff_t count) {
+    const Extent stored =
+        reading == Reading::transposed ? Extent{result.columns, result.rows} : result;
+    const auto reads = spansOf(src, stored.rows, stored.columns);
+    const auto writes = spansOf(dst, result.rows, result.columns);
+    const bool adjacentRows =
+        src.hasAdjacentRows(stored.columns) && dst.hasAdjacentRows(result.columns);
+    const auto small = permutedTransposeFor<typename Dst::Element>(result, count);
+    const auto move = [&](auto size) {
+        for (std::ptrdiff_t n = 0; n < count; ++n) {
+            const auto from = src.object(n, stored.columns);
+            const auto to = dst.object(n, result.columns);
+            if (overlap(reads(n), writes(n))) {
+                moveObjectInOrder(objectAsRead<reading>(src, n, result), to, result, false);
+            } else if constexpr (reading == Reading::asStored) {
+                moveRows(from, to, result, adjacentRows);
+            } else {
+                transposeRows(from, to, result, adjacentRows, size, small);
+            }
+        }
+    };
+    if constexpr (reading == Reading::asStored)
+        move(std::ptrdiff_t{0});
+    else
+        withTransposedSize(result, move);
+}
+
+} // namespace qorm::movement
