@@ -21,22 +21,26 @@ auto spansOf(const D& dst, const Shape& shape) {
     return qorm::spansOf(dst, shape.rows, shape.columns);
 }
 
-// work(n) with a constant for the squares that have straight-line code.
-template <class Work>
+// work(n) with a constant for the squares that have straight-line code. Registers don't run along
+// elements with gaps, so there are fewer of those.
+template <class D, class Work>
 void withProductSize(const Shape& shape, const Work& work) {
     const std::ptrdiff_t n = shape.isSquare() ? shape.rows : 0;
-    switch (n) {
-    case 2:
-        return work(Fixed<2>());
-    case 7:
-        return work(Fixed<7>());
-    case 8:
-        return work(Fixed<8>());
-    case 16:
-        return work(Fixed<16>());
-    default:
-        return withStaticSize(n, work);
+    if constexpr (D::hasContiguousRows || D::layout == Layout::P) {
+        switch (n) {
+        case 2:
+            return work(Fixed<2>());
+        case 7:
+            return work(Fixed<7>());
+        case 8:
+            return work(Fixed<8>());
+        case 16:
+            return work(Fixed<16>());
+        default:
+            break;
+        }
     }
+    withStaticSize(n, work);
 }
 
 // Sizes at which an array's operand is held before the first element of its result is written.
@@ -111,7 +115,7 @@ void multiplyStrided(const A& src1, const B& src2, const D& dst, const Shape& sh
     const bool firstIsApart = areApart(spansOf(src1), written, count);
     const bool apart = firstIsApart && areApart(spansOf(src2), written, count) &&
                        hasDistinctElements(dst, shape.rows, shape.columns, 1);
-    withProductSize(shape, [&](auto n) {
+    withProductSize<D>(shape, [&](auto n) {
         if (!apart && !(isHeldWhole<decltype(n)> && B::isArray && firstIsApart)) {
             return multiplyInOrder(src1, src2, dst, shape, 0, count);
         }
@@ -155,8 +159,8 @@ template <class N, class A, class B, class D>
 template <class A, class B, class D>
 void multiplyListed(const A& src1, const B& src2, const D& dst, const Shape& shape,
                     std::ptrdiff_t count) {
-    withProductSize(shape,
-                    [&](auto n) { multiplyListedObjects(src1, src2, dst, shape, n, count); });
+    withProductSize<D>(shape,
+                       [&](auto n) { multiplyListedObjects(src1, src2, dst, shape, n, count); });
 }
 
 // Whether nothing that is read at some position lies where the objects of another are written.
@@ -203,7 +207,7 @@ bool multiplySideBySide(const A& src1, const B& src2, const D& dst, const Shape&
 template <class A, class B, class D>
 void multiplyPointed(const A& src1, const B& src2, const D& dst, const Shape& shape,
                      std::ptrdiff_t count) {
-    withProductSize(shape, [&](auto n) {
+    withProductSize<D>(shape, [&](auto n) {
         if (multiplySideBySide(src1, src2, dst, shape, n, count)) return;
         const RegularSpans written = spansOf(dst, shape);
         if (areApart(spansOf(src1), written, count) && areApart(spansOf(src2), written, count) &&
