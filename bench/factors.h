@@ -29,10 +29,10 @@ struct ScalarMath {
 
 // The end of a loop over so many rows or columns. Compilers are not to see it where straight-line
 // code would take them minutes.
-template <int n, int mostUnrolled = 8>
+template <int n>
 [[gnu::always_inline]] inline int endOf() {
     int end = n;
-    if constexpr (n > mostUnrolled) __asm__("" : "+r"(end));
+    if constexpr (n > 8) __asm__("" : "+r"(end));
     return end;
 }
 
@@ -227,7 +227,6 @@ struct Cholesky {
 // Householder's reflections I - scale v v^T, with v[k] = 1.
 template <class Math>
 struct Qr {
-    static constexpr int mostUnrolled = 6;
     template <int rows, int columns>
     static constexpr int extras = columns; // the scale of each reflection
     template <int rows, int columns>
@@ -237,9 +236,9 @@ struct Qr {
 
     template <int rows, int columns, class Tile, class Scales>
     [[gnu::always_inline]] static void factor(Tile& m, Scales& scales) {
-        const int rowsEnd = endOf<rows, mostUnrolled>();
-        const int columnsEnd = endOf<columns, mostUnrolled>();
-        const int reflectionsEnd = endOf<reflections<rows, columns>, mostUnrolled>();
+        const int rowsEnd = endOf<rows>();
+        const int columnsEnd = endOf<columns>();
+        const int reflectionsEnd = endOf<reflections<rows, columns>>();
 #pragma GCC unroll 16
         for (int k = 0; k < reflectionsEnd; ++k) {
             auto squares = m[k][k] * m[k][k];
@@ -274,8 +273,8 @@ struct Qr {
 
     template <int rows, int columns, class Tile, class Scales, class Vector>
     [[gnu::always_inline]] static void substitute(const Tile& m, const Scales& scales, Vector& x) {
-        const int rowsEnd = endOf<rows, mostUnrolled>();
-        const int reflectionsEnd = endOf<reflections<rows, columns>, mostUnrolled>();
+        const int rowsEnd = endOf<rows>();
+        const int reflectionsEnd = endOf<reflections<rows, columns>>();
 #pragma GCC unroll 16
         for (int k = 0; k < reflectionsEnd; ++k) {
             auto s = x[k];
@@ -292,7 +291,7 @@ struct Qr {
     template <int rows, int columns, class Tile, class Scales, class Given, class Vector>
     [[gnu::always_inline]] static void solve(const Tile& m, const Scales& scales, const Given& b,
                                              Vector& x) {
-        const int rowsEnd = endOf<rows, mostUnrolled>();
+        const int rowsEnd = endOf<rows>();
 #pragma GCC unroll 16
         for (int i = 0; i < rowsEnd; ++i) x[i] = b(i);
         substitute<rows, columns>(m, scales, x);
