@@ -124,11 +124,11 @@ void combineStrided(const Op& op, const D& dst, Width width, Height height, bool
     combineObjects(op, dst, width, height, count, sources...);
 }
 
-// work(width, height) with constants for the squares of 3 to 6 and for vectors of 3 to 6.
-template <class Work>
-void withKnownExtent(std::ptrdiff_t width, std::ptrdiff_t height, const Work& work) {
-    if (height == 1)
-        withStaticSize(width, [&](auto columns) { work(columns, Fixed<1>()); });
+// work(width, height) with constants for the squares of 3 to 6, and for vectors of 3 to 6.
+template <class Height, class Work>
+void withKnownExtent(std::ptrdiff_t width, Height height, const Work& work) {
+    if constexpr (isFixed<Height>)
+        withStaticSize(width, [&](auto columns) { work(columns, height); });
     else
         withStaticSquare(width, height, work);
 }
@@ -140,12 +140,10 @@ void combineRuns(const Op& op, Run<T> dst, std::ptrdiff_t elements, Sources... s
     for (std::ptrdiff_t k = 0; k < elements; ++k) dst(k) = op(sources(k)...);
 }
 
-template <class Op, class D, class... Sources>
-qorStatus combine(const Op& op, const D& dst, Size widthOf, Size heightOf, Count countOf,
-                  const Sources&... sources) {
-    const std::ptrdiff_t width = widthOf.value;
-    const std::ptrdiff_t height = heightOf.value;
-    const std::ptrdiff_t count = countOf.value;
+// The height of vectors is a constant.
+template <class Op, class D, class Height, class... Sources>
+qorStatus combine(const Op& op, const D& dst, std::ptrdiff_t width, Height height,
+                  std::ptrdiff_t count, const Sources&... sources) {
     const auto all = [&](auto holds) { return (holds(sources.operand) && ...) && holds(dst); };
 
     if constexpr (D::layout == Layout::P) {

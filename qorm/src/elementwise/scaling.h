@@ -52,17 +52,23 @@ constexpr Form<elementwise::VectorMeasure> formOfVectors(Kind kind, Layout layou
             .generalThreshold = general};
 }
 
+template <class T>
+auto timesConstant(const Constant<T>& constant) {
+    return [c = constant.value](T a) { return a * c; };
+}
+
 template <Kind kind, class A, class T, class D>
 qorStatus runMatrices(const A& src, const Constant<T>& constant, const D& dst, Size width,
                       Size height, Count count = Count(1)) {
-    const auto op = [c = constant.value](T a) { return a * c; };
-    return elementwise::combine(op, dst, width, height, count, elementwise::sourceOf<kind>(src));
+    return elementwise::combine(timesConstant(constant), dst, width.value, height.value,
+                                count.value, elementwise::sourceOf<kind>(src));
 }
 
 template <Kind kind, class A, class T, class D>
 qorStatus runVectors(const A& src, const Constant<T>& constant, const D& dst, Size len,
                      Count count = Count(1)) {
-    return runMatrices<kind>(src, constant, dst, len, Size(1), count);
+    return elementwise::combine(timesConstant(constant), dst, len.value, Fixed<1>(), count.value,
+                                elementwise::sourceOf<kind>(src));
 }
 
 } // namespace qorm::scaling

@@ -55,7 +55,7 @@ constexpr Form<Measure> form(Kind first, Kind second, Layout layout) {
 template <class Sign, Kind first, Kind second, class A, class B, class D>
 qorStatus run(const A& src1, const B& src2, const D& dst, Size width, Size height,
               Count count = Count(1)) {
-    return elementwise::combine(Sign(), dst, width, height, count,
+    return elementwise::combine(Sign(), dst, width.value, height.value, count.value,
                                 elementwise::sourceOf<first>(src1),
                                 elementwise::sourceOf<second>(src2));
 }

@@ -128,7 +128,8 @@ template <class Operation, Kind kind, class A, class T, class D>
 qorStatus runWithConstant(const A& src, const Constant<T>& constant, const D& dst, Size len,
                           Count count = Count(1)) {
     const auto op = [c = constant.value](T a) { return Operation::of(a, c); };
-    return elementwise::combine(op, dst, len, Size(1), count, elementwise::sourceOf<kind>(src));
+    return elementwise::combine(op, dst, len.value, Fixed<1>(), count.value,
+                                elementwise::sourceOf<kind>(src));
 }
 
 } // namespace qorm::sums

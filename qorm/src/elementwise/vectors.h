@@ -40,20 +40,19 @@ bool isSurelyApart(const S& source, const D& dst, std::ptrdiff_t len, std::ptrdi
 template <bool holdsSingle, class Op, class D, class A, class B>
 qorStatus combineVectors(const Op& op, const D& dst, Size len, Count count, const A& a,
                          const B& b) {
-    using T = typename D::Element;
-    const auto combineAll = [&](const auto& first, const auto& second) {
-        return combine(op, dst, len, Size(1), count, first, second);
+    const auto combineAll = [&](const A& first, const B& second) {
+        return combine(op, dst, len.value, Fixed<1>(), count.value, first, second);
     };
     if constexpr (holdsSingle && isArray(A::kind) != isArray(B::kind)) {
         constexpr bool firstIsSingle = isArray(B::kind);
         const auto& single = std::get < firstIsSingle ? 0 : 1 > (std::tie(a, b));
         if (isUnrolled(len.value) && !isSurelyApart(single, dst, len.value, count.value)) {
-            const HeldVector<T> vector(single.operand, len.value);
-            const auto held = sourceOf<Kind::v>(vector.operand());
+            const HeldVector held(single.operand, len.value);
+            const auto source = sourceOf<Kind::v>(held.operand());
             if constexpr (firstIsSingle)
-                return combineAll(held, b);
+                return combineAll(source, b);
             else
-                return combineAll(a, held);
+                return combineAll(a, source);
         }
     }
     return combineAll(a, b);

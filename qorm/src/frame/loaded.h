@@ -72,20 +72,32 @@ bool canLeaveOut(const Operand& vectors, std::ptrdiff_t len) {
         return true;
 }
 
-// A single vector of a few elements, held for all objects of a call.
-template <class T>
+// A single vector of a few elements, held for all objects of a call: an operand like the vector.
+template <class Operand>
 class HeldVector {
 public:
-    template <class Operand>
     HeldVector(const Operand& vector, std::ptrdiff_t len) {
         const OnlyRow elements = vectorOf(vector, 0, len);
-        for (std::ptrdiff_t i = 0; i < len; ++i) elements_[i] = elements(i);
+        for (std::ptrdiff_t i = 0; i < len; ++i) {
+            elements_[i] = elements(i);
+            addresses_[i] = &elements_[i];
+        }
+    }
+    HeldVector(const HeldVector&) = delete;
+    HeldVector& operator=(const HeldVector&) = delete;
+
+    Operand operand() const {
+        if constexpr (Operand::layout == Layout::P)
+            return {addresses_, 0, 0};
+        else
+            return {elements_, 0, 0, sizeof(T)};
     }
 
-    auto operand() const { return Strided<const T, Kind::v, true>(elements_, 0, 0, sizeof(T)); }
-
 private:
+    using T = std::remove_const_t<typename Operand::Element>;
+
     T elements_[6];
+    const T* addresses_[6];
 };
 
 } // namespace qorm

@@ -277,11 +277,17 @@ template <Sums sums, class V, class S, class Rows, class Terms>
                                      std::ptrdiff_t blocks, Rows rows, Terms terms) {
     constexpr bool isOne = laneCount<V> == 1;
     if constexpr (!isOne || sums == Sums::pairs) {
-        forEachBlock<V>(
-            first, live,
-            blocks, [&](std::ptrdiff_t object, int liveLanes) __attribute__((always_inline)) {
-                multiplyLanes<sums, V>(s, object, liveLanes, rows, terms);
-            });
+        const auto multiply = [&](std::ptrdiff_t object, int liveLanes)
+            __attribute__((always_inline)) {
+            multiplyLanes<sums, V>(s, object, liveLanes, rows, terms);
+        };
+        // Where matrices are loaded too, a constant number of live lanes gains nothing.
+        if constexpr (decltype(s.matrix)::holdsArray) {
+            for (std::ptrdiff_t block = 0; block < blocks; ++block)
+                multiply(first + block * laneCount<V>, live);
+        } else {
+            forEachBlock<V>(first, live, blocks, multiply);
+        }
     } else if constexpr (sums == Sums::blocks) {
         multiplyOneInBlocks(s, first, true);
     } else if constexpr (hasOwnPath<Rows>) {
@@ -392,9 +398,9 @@ qorStatus multiplyVectors(const Matrix& matrix, Size width, Size height, const X
     using T = typename D::Element;
     const Extent stored = {height.value, width.value};
     const std::ptrdiff_t count = countOf.value;
-    const auto multiply = [&](const auto& vectors) {
-        const Systems<matrixKind, Matrix, std::remove_cvref_t<decltype(vectors)>, Nothing, D>
-            systems = {matrix, stored, vectors, {}, dst};
+    const auto multiply = [&](const X& vectors) {
+        const Systems<matrixKind, Matrix, X, Nothing, D> systems = {
+            matrix, stored, vectors, {}, dst};
         constexpr bool contiguous =
             Matrix::hasContiguousRows && X::hasContiguousRows && D::hasContiguousRows;
         if constexpr (matrixKind == Kind::m && vectorKind == Kind::va && sizeof(T) == 4 &&
@@ -407,7 +413,8 @@ qorStatus multiplyVectors(const Matrix& matrix, Size width, Size height, const X
     // By strides, squares of 3 to 6 read a single vector once for all objects.
     if constexpr (D::layout == Layout::S && D::holdsArray && !X::holdsArray) {
         if (stored.rows == stored.columns && isUnrolled(stored.rows)) {
-            return multiply(HeldVector<T>(x, stored.rows).operand());
+            const HeldVector held(x, stored.rows);
+            return multiply(held.operand());
         }
     }
     return multiply(x);

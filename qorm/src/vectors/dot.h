@@ -90,8 +90,8 @@ qorStatus scalarProducts(const A& a, const B& b, const Plain<T>& dst, Size size,
         // Lengths 3 to 6 read a single vector once for all objects.
         if constexpr (!B::holdsArray) {
             if (isUnrolled(len)) {
-                return productsInLanes<order>(a, HeldVector<T>(b, len).operand(), dst, len, count,
-                                              asIs);
+                const HeldVector held(b, len);
+                return productsInLanes<order>(a, held.operand(), dst, len, count, asIs);
             }
         }
         return productsInLanes<order>(a, b, dst, len, count, asIs);
