@@ -372,24 +372,12 @@ template <Part part, class V, class Operand, class Rows, class Columns, class M>
     return true;
 }
 
-// Objects first .. first + live - 1 into the lanes of a block.
-template <Part part = Part::whole, class V, class Operand, class Rows, class Columns, class M>
-[[gnu::always_inline]] inline void loadLanes(const Operand& operand, std::ptrdiff_t first, int live,
-                                             Rows rows, Columns columns, PackMatrix<V, M> block) {
-    constexpr int lanes = laneCount<V>;
-    if (live == lanes && operand.hasObjectsSideBySide()) {
-        const auto object = operand.object(first, columns);
-        for (std::ptrdiff_t i = 0; i < rows; ++i) {
-            for (std::ptrdiff_t j = 0; j < columnsOfRow<part>(i, columns); ++j) {
-                std::memcpy(&block(i, j), object(i, j).address(), sizeof(V));
-            }
-        }
-        return;
-    }
-    if constexpr (Operand::hasContiguousRows && lanes > 1) {
-        return loadRows<part>(operand, first, live, rows, columns, block);
-    }
-    for (int lane = 0; lane < lanes; ++lane) {
+// Element by element, for all other layouts. What has no registers of its own shares this code; a
+// block that it does not see can be held in registers.
+template <Part part, class V, class Operand, class Rows, class Columns, class M>
+[[gnu::noinline]] void loadElements(const Operand operand, std::ptrdiff_t first, int live,
+                                    Rows rows, Columns columns, PackMatrix<V, M> block) {
+    for (int lane = 0; lane < laneCount<V>; ++lane) {
         const auto object = operand.object(first + std::min(lane, live - 1), columns);
         for (std::ptrdiff_t i = 0; i < rows; ++i) {
             for (std::ptrdiff_t j = 0; j < columnsOfRow<part>(i, columns); ++j) {
@@ -399,16 +387,58 @@ template <Part part = Part::whole, class V, class Operand, class Rows, class Col
     }
 }
 
+template <Part part, class V, class Operand, class Rows, class Columns, class M>
+[[gnu::noinline]] void storeElements(const Operand operand, std::ptrdiff_t first, int live,
+                                     Rows rows, Columns columns, PackMatrix<V, M> block) {
+    for (int lane = 0; lane < live; ++lane) {
+        const auto object = operand.object(first + lane, columns);
+        for (std::ptrdiff_t i = 0; i < rows; ++i) {
+            for (std::ptrdiff_t j = 0; j < columnsOfRow<part>(i, columns); ++j) {
+                object(i, j) = laneOf(block(i, j), lane);
+            }
+        }
+    }
+}
+
+// Objects first .. first + live - 1 into the lanes of a block.
+template <Part part = Part::whole, class V, class Operand, class Rows, class Columns, class M>
+[[gnu::always_inline]] inline void loadLanes(const Operand& operand, std::ptrdiff_t first, int live,
+                                             Rows rows, Columns columns, PackMatrix<V, M> block) {
+    constexpr int lanes = laneCount<V>;
+    if (live == lanes && (lanes == 1 || operand.hasObjectsSideBySide())) {
+        const auto object = operand.object(first, columns);
+        for (std::ptrdiff_t i = 0; i < rows; ++i) {
+            for (std::ptrdiff_t j = 0; j < columnsOfRow<part>(i, columns); ++j) {
+                block(i, j) = loadWhole<V>(object(i, j).address());
+            }
+        }
+        return;
+    }
+    if constexpr (Operand::hasContiguousRows && lanes > 1) {
+        return loadRows<part>(operand, first, live, rows, columns, block);
+    }
+    if constexpr (isFixed<Rows> && isFixed<Columns>) {
+        V elements[rows * columns];
+        loadElements<part>(operand, first, live, rows, columns,
+                           PackMatrix<V, Columns>{elements, columns});
+        forEachOf<part, rows, columns>([&](auto k) __attribute__((always_inline)) {
+            block(k / columns, k % columns) = elements[k];
+        });
+    } else {
+        loadElements<part>(operand, first, live, rows, columns, block);
+    }
+}
+
 template <Part part = Part::whole, class V, class Operand, class Rows, class Columns, class M>
 [[gnu::always_inline]] inline void storeLanes(const Operand& operand, std::ptrdiff_t first,
                                               int live, Rows rows, Columns columns,
                                               PackMatrix<V, M> block) {
     constexpr int lanes = laneCount<V>;
-    if (live == lanes && operand.hasObjectsSideBySide()) {
+    if (live == lanes && (lanes == 1 || operand.hasObjectsSideBySide())) {
         const auto object = operand.object(first, columns);
         for (std::ptrdiff_t i = 0; i < rows; ++i) {
             for (std::ptrdiff_t j = 0; j < columnsOfRow<part>(i, columns); ++j) {
-                std::memcpy(object(i, j).address(), &block(i, j), sizeof(V));
+                storeWhole(object(i, j).address(), block(i, j));
             }
         }
         return;
@@ -416,13 +446,15 @@ template <Part part = Part::whole, class V, class Operand, class Rows, class Col
     if constexpr (Operand::hasContiguousRows && lanes > 1) {
         if (storeRows<part>(operand, first, live, rows, columns, block)) return;
     }
-    for (int lane = 0; lane < live; ++lane) {
-        const auto object = operand.object(first + lane, columns);
-        for (std::ptrdiff_t i = 0; i < rows; ++i) {
-            for (std::ptrdiff_t j = 0; j < columnsOfRow<part>(i, columns); ++j) {
-                object(i, j) = reinterpret_cast<const LaneType<V>*>(&block(i, j))[lane];
-            }
-        }
+    if constexpr (isFixed<Rows> && isFixed<Columns>) {
+        V elements[rows * columns];
+        forEachOf<part, rows, columns>([&](auto k) __attribute__((always_inline)) {
+            elements[k] = block(k / columns, k % columns);
+        });
+        storeElements<part>(operand, first, live, rows, columns,
+                            PackMatrix<V, Columns>{elements, columns});
+    } else {
+        storeElements<part>(operand, first, live, rows, columns, block);
     }
 }
 
@@ -517,7 +549,7 @@ void storeLanes(const Plain<T>& runs, std::ptrdiff_t first, int live, N elements
                 PackRun<V> block) {
     if constexpr (std::is_same_v<T, LaneType<V>> && isFixed<N> && elements == 1) {
         if (live == laneCount<V>) {
-            std::memcpy(runs.object(first).base, block.base, sizeof(V));
+            storeWhole(runs.object(first).base, block(0));
             return;
         }
     }

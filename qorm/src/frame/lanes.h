@@ -21,6 +21,14 @@
 #include <immintrin.h>
 #endif
 
+// A function of its own with all that it calls inside. GCC's copies of it for constant arguments lose
+// more by crowded registers than they gain.
+#if defined(__clang__)
+#define QORM_KERNEL [[gnu::flatten, gnu::noinline]]
+#else
+#define QORM_KERNEL [[gnu::flatten, gnu::noinline, gnu::noclone]]
+#endif
+
 namespace qorm {
 
 #if defined(__AVX512F__) && defined(__AVX512DQ__)

@@ -17,6 +17,26 @@ bool areSurelyApart(const Reads& reads, const Writes& writes, std::ptrdiff_t cou
         return false;
 }
 
+// What it costs light arithmetic to go in lanes: nothing where objects are packed or lie side by side,
+// so that whole registers are loaded or stored; in lists most, where blocks are tested for overlap.
+template <class Operand>
+int costOfLanes(const Operand& operand, std::ptrdiff_t rows, std::ptrdiff_t columns) {
+    if (!Operand::holdsArray || operand.hasObjectsSideBySide() ||
+        (operand.hasAdjacentRows(columns) && operand.hasAdjacentObjects(rows * columns)))
+        return 0;
+    return Operand::layout == Layout::L ? 2 : 1;
+}
+
+// The cost, over all operands, from which on an object after the other is done sooner.
+inline constexpr int leastForScalars = 2;
+
+// All objects in their order, by work.template operator()<T>(first, 1, count).
+template <class T, class Work>
+qorStatus inScalars(std::ptrdiff_t count, const Work& work) {
+    work.template operator()<T>(0, 1, count);
+    return qorStatusOk;
+}
+
 // inLanes() for work that cannot fail. Where operands are apart, all whole blocks are one call of
 // work.template operator()<V>(first, live, blocks); others are single ones.
 template <class V, class Guard, class Work>
@@ -30,9 +50,7 @@ qorStatus inManyLanes(bool apart, const Guard& guard, std::ptrdiff_t count, cons
         if (live > 1 && (apart || guard.allows(first, live))) {
             work.template operator()<V>(first, live, 1);
         } else {
-            for (int k = 0; k < live; ++k) {
-                work.template operator()<LaneType<V>>(first + k, 1, 1);
-            }
+            work.template operator()<LaneType<V>>(first, 1, live);
         }
     }
     return qorStatusOk;

@@ -8,16 +8,44 @@
 
 namespace qorm {
 
+// All lanes of V, a pack or a number, from memory and back. Register by register: compilers keep in
+// registers what they don't see moved as a block.
+template <class V, Scalar T>
+V loadWhole(const T* from) {
+    V whole;
+    if constexpr (laneCount<V> == 1) {
+        std::memcpy(&whole, from, sizeof whole);
+    } else {
+        for (auto& lanes : whole.lanes) {
+            Register<T> loaded;
+            std::memcpy(&loaded, from, sizeof loaded);
+            lanes = loaded;
+            from += laneCount<Pack<T>>;
+        }
+    }
+    return whole;
+}
+
+template <class V, Scalar T>
+void storeWhole(T* to, const V& whole) {
+    if constexpr (laneCount<V> == 1) {
+        std::memcpy(to, &whole, sizeof whole);
+    } else {
+        for (const Register<T> lanes : whole.lanes) {
+            std::memcpy(to, &lanes, sizeof lanes);
+            to += laneCount<Pack<T>>;
+        }
+    }
+}
+
 template <Scalar T>
 Pack<T> loadRun(const T* from) {
-    Pack<T> run;
-    std::memcpy(&run, from, sizeof run);
-    return run;
+    return loadWhole<Pack<T>>(from);
 }
 
 template <Scalar T>
 void storeRun(T* to, const Pack<T>& run) {
-    std::memcpy(to, &run, sizeof run);
+    storeWhole(to, run);
 }
 
 #if defined(QORM_AVX512)

@@ -23,9 +23,7 @@ auto withSmallSize(std::ptrdiff_t n, const Work& work) {
 template <class V, class Matrix>
 auto lanesInPlace(const Matrix& object) {
     return [object](std::ptrdiff_t i, std::ptrdiff_t j) {
-        V lanes;
-        std::memcpy(&lanes, object(i, j).address(), sizeof lanes);
-        return lanes;
+        return loadWhole<V>(object(i, j).address());
     };
 }
 

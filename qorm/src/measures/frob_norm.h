@@ -130,21 +130,20 @@ template <class V, class Src, class N, class M>
 }
 
 template <class V, class Src, class T, class N, class M>
-[[gnu::flatten]] void normsOfBlocks(const Src src, const Plain<T> dst, std::ptrdiff_t first,
-                                    int live, std::ptrdiff_t blocks, N width, M height,
-                                    FrobNormRule rule) {
-    if constexpr (laneCount<V> == 1) {
-        dst.object(first)(0) =
-            rootOf(sumOfOne(src, first, width, height, rule.squares), rule.isTested);
-    } else {
-        forEachBlock<V>(
-            first, live,
-            blocks, [&](std::ptrdiff_t object, int liveLanes) __attribute__((always_inline)) {
-                V root = rootOf(sumOfBlock<V>(src, object, liveLanes, width, height, rule.squares),
-                                rule.isTested);
-                storeLanes(dst, object, liveLanes, Fixed<1>(), PackRun<V>{&root});
-            });
-    }
+QORM_KERNEL void normsOfBlocks(const Src src, const Plain<T> dst, std::ptrdiff_t first, int live,
+                               std::ptrdiff_t blocks, N width, M height, FrobNormRule rule) {
+    const auto normsOfBlock = [&](std::ptrdiff_t object, int liveLanes)
+        __attribute__((always_inline)) {
+        if constexpr (laneCount<V> == 1) {
+            dst.object(object)(0) =
+                rootOf(sumOfOne(src, object, width, height, rule.squares), rule.isTested);
+        } else {
+            V root = rootOf(sumOfBlock<V>(src, object, liveLanes, width, height, rule.squares),
+                            rule.isTested);
+            storeLanes(dst, object, liveLanes, Fixed<1>(), PackRun<V>{&root});
+        }
+    };
+    forEachBlock<V>(first, live, blocks, normsOfBlock);
 }
 
 template <class Src, class T>

@@ -72,17 +72,16 @@ template <Reading reading, class V, class Src, class Dst, class Rows, class Colu
 template <Reading reading, class V, class Src, class Dst, class Rows, class Columns>
 void moveBlocks(const Src src, const Dst dst, std::ptrdiff_t first, int live, std::ptrdiff_t blocks,
                 Rows rows, Columns columns) {
-    if constexpr (laneCount<V> == 1) {
-        const Extent result = {rows, columns};
-        moveObjectInOrder(objectAsRead<reading>(src, first, result), dst.object(first, columns),
-                          result, false);
-    } else {
-        forEachBlock<V>(
-            first, live,
-            blocks, [&](std::ptrdiff_t object, int liveLanes) __attribute__((always_inline)) {
-                moveBlock<reading, V>(src, dst, object, liveLanes, rows, columns);
-            });
-    }
+    const auto move = [&](std::ptrdiff_t object, int liveLanes) __attribute__((always_inline)) {
+        if constexpr (laneCount<V> == 1) {
+            const Extent result = {rows, columns};
+            moveObjectInOrder(objectAsRead<reading>(src, object, result),
+                              dst.object(object, columns), result, false);
+        } else {
+            moveBlock<reading, V>(src, dst, object, liveLanes, rows, columns);
+        }
+    };
+    forEachBlock<V>(first, live, blocks, move);
 }
 
 // Between objects side by side and contiguous rows: blocks of objects are transposed in registers.

@@ -273,27 +273,24 @@ template <Sums sums, class V, class S, class Rows, class Terms>
 }
 
 template <Sums sums, class V, class S, class Rows, class Terms>
-[[gnu::flatten]] void multiplyBlocks(const S s, std::ptrdiff_t first, int live,
-                                     std::ptrdiff_t blocks, Rows rows, Terms terms) {
-    constexpr bool isOne = laneCount<V> == 1;
-    if constexpr (!isOne || sums == Sums::pairs) {
-        const auto multiply = [&](std::ptrdiff_t object, int liveLanes)
-            __attribute__((always_inline)) {
+QORM_KERNEL void multiplyBlocks(const S s, std::ptrdiff_t first, int live, std::ptrdiff_t blocks,
+                                Rows rows, Terms terms) {
+    const auto multiply = [&](std::ptrdiff_t object, int liveLanes) __attribute__((always_inline)) {
+        if constexpr (laneCount < V >> 1 || sums == Sums::pairs)
             multiplyLanes<sums, V>(s, object, liveLanes, rows, terms);
-        };
-        // Where matrices are loaded too, a constant number of live lanes gains nothing.
-        if constexpr (decltype(s.matrix)::holdsArray) {
-            for (std::ptrdiff_t block = 0; block < blocks; ++block)
-                multiply(first + block * laneCount<V>, live);
-        } else {
-            forEachBlock<V>(first, live, blocks, multiply);
-        }
-    } else if constexpr (sums == Sums::blocks) {
-        multiplyOneInBlocks(s, first, true);
-    } else if constexpr (hasOwnPath<Rows>) {
-        multiplyOneKnown(s, first, rows);
+        else if constexpr (sums == Sums::blocks)
+            multiplyOneInBlocks(s, object, true);
+        else if constexpr (hasOwnPath<Rows>)
+            multiplyOneKnown(s, object, rows);
+        else
+            multiplyOne(s, object);
+    };
+    // Where matrices are loaded too, a constant number of live lanes gains nothing.
+    if constexpr (decltype(s.matrix)::holdsArray) {
+        for (std::ptrdiff_t block = 0; block < blocks; ++block)
+            multiply(first + block * laneCount<V>, live);
     } else {
-        multiplyOne(s, first);
+        forEachBlock<V>(first, live, blocks, multiply);
     }
 }
 
@@ -332,26 +329,44 @@ bool areSourcesApart(const S& s, std::ptrdiff_t count) {
            hasDistinctElements(s.dst, 1, s.rows(), lanes);
 }
 
+template <class S>
+int costOfLanes(const S& s) {
+    const int ofAddend = [&] {
+        if constexpr (isAdded<decltype(s.addend)>)
+            return qorm::costOfLanes(s.addend, 1, s.rows());
+        else
+            return 0;
+    }();
+    return qorm::costOfLanes(s.matrix, s.stored.rows, s.stored.columns) +
+           qorm::costOfLanes(s.x, 1, s.terms()) + ofAddend + qorm::costOfLanes(s.dst, 1, s.rows());
+}
+
 template <Sums sums = Sums::chain, class S>
 qorStatus multiplySystems(const S& s, std::ptrdiff_t count) {
     using T = typename S::T;
     using D = decltype(s.dst);
     if constexpr (D::holdsArray) {
         if (std::max(s.rows(), s.terms()) <= mostLaneSize) {
+            const auto run = [&](const auto& inBlocks) {
+                return withKnownSquare<D>(s.terms(), s.rows(), [&](auto terms, auto rows) {
+                    constexpr bool isOther =
+                        sums != Sums::chain && hasOwnPath<decltype(rows)> != (sums == Sums::pairs);
+                    if constexpr (isOther)
+                        return qorStatus{qorStatusOk};
+                    else
+                        return inBlocks(
+                            [&]<class V>(std::ptrdiff_t first, int live, std::ptrdiff_t blocks) {
+                                multiplyBlocks<sums, V>(s, first, live, blocks, rows, terms);
+                            });
+                });
+            };
+            const bool known = s.rows() == s.terms() && isUnrolled(s.rows());
+            if (known && costOfLanes(s) >= leastForScalars)
+                return run([&](const auto& work) { return inScalars<T>(count, work); });
             const auto guard = guardOf(s, count);
             const bool apart = areSourcesApart(s, count);
-            return withKnownSquare<D>(s.terms(), s.rows(), [&](auto terms, auto rows) {
-                constexpr bool isOther =
-                    sums != Sums::chain && hasOwnPath<decltype(rows)> != (sums == Sums::pairs);
-                if constexpr (isOther)
-                    return qorStatus{qorStatusOk};
-                else
-                    return inManyLanes<Pack<T>>(
-                        apart, guard, count,
-                        [&]<class V>(std::ptrdiff_t first, int live, std::ptrdiff_t blocks) {
-                            multiplyBlocks<sums, V>(s, first, live, blocks, rows, terms);
-                        });
-            });
+            return run(
+                [&](const auto& work) { return inManyLanes<Pack<T>>(apart, guard, count, work); });
         }
     } else {
         if (s.rows() == s.terms() && isUnrolled(s.rows())) {

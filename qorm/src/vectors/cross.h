@@ -64,33 +64,49 @@ V elementOfProduct(const A& a, const B& b, std::ptrdiff_t i) {
 
 // Objects first .. first + live - 1 of arrays, all of an object read before it is written.
 template <class V, class A, class B, class D>
-[[gnu::flatten]] qorStatus multiplyBlock(const A src1, const B src2, const D dst,
-                                         std::ptrdiff_t first, int live) {
+[[gnu::always_inline]] inline void multiplyBlock(const A& src1, const B& src2, const D& dst,
+                                                 std::ptrdiff_t first, int live) {
     constexpr Fixed<3> len;
-    const auto load = [&]<class Operand>(const Operand& operand) {
+    const auto load = [&]<class Operand>(const Operand& operand) __attribute__((always_inline)) {
         using X = std::conditional_t<Operand::holdsArray, V, LaneType<V>>;
-        LoadedVector<X, Fixed<3>> vector;
-        vector.load(operand, first, Operand::holdsArray ? live : 1, len);
-        return vector;
+        return loadVectors<X>(operand, first, live, len);
     };
     const auto a = load(src1);
     const auto b = load(src2);
     LoadedVector<V, Fixed<3>> product;
     for (std::ptrdiff_t i = 0; i < len; ++i) product(i) = elementOfProduct<V>(a, b, i);
     product.store(dst, first, live, len);
-    return qorStatusOk;
+}
+
+template <class V, class A, class B, class D>
+QORM_KERNEL void multiplyBlocks(const A src1, const B src2, const D dst, std::ptrdiff_t first,
+                                int live, std::ptrdiff_t blocks) {
+    forEachBlock<V>(
+        first, live,
+        blocks, [&](std::ptrdiff_t object, int liveLanes) __attribute__((always_inline)) {
+            multiplyBlock<V>(src1, src2, dst, object, liveLanes);
+        });
 }
 
 template <class A, class B, class D>
-qorStatus vectorProductsInLanes(const A& src1, const B& src2, const D& dst, std::ptrdiff_t count) {
+qorStatus multiplyVectors(const A& src1, const B& src2, const D& dst, std::ptrdiff_t count) {
     using T = typename D::Element;
-    const auto guardOf = [&](const auto& operand) {
-        return readAheadOf(Sharing::any, operand, {1, 3}, dst, {1, 3}, count, laneCount<Pack<T>>);
+    constexpr int lanes = laneCount<Pack<T>>;
+    const auto multiply = [&]<class V>(std::ptrdiff_t first, int live, std::ptrdiff_t blocks) {
+        multiplyBlocks<V>(src1, src2, dst, first, live, blocks);
     };
-    return inLanes<Pack<T>>(AllOf(guardOf(src1), guardOf(src2)), count,
-                            [&]<class V>(std::ptrdiff_t first, int live) {
-                                return multiplyBlock<V>(src1, src2, dst, first, live);
-                            });
+    if (costOfLanes(src1, 1, 3) + costOfLanes(src2, 1, 3) + costOfLanes(dst, 1, 3) >=
+        leastForScalars) {
+        return inScalars<T>(count, multiply);
+    }
+    const auto guardOf = [&](const auto& operand) {
+        return readAheadOf(Sharing::any, operand, {1, 3}, dst, {1, 3}, count, lanes);
+    };
+    const auto isApart = [&](const auto& operand) {
+        return areSurelyApart(spansOf(operand, 1, 3), spansOf(dst, 1, 3), count);
+    };
+    const bool apart = isApart(src1) && isApart(src2) && hasDistinctElements(dst, 1, 3, lanes);
+    return inManyLanes<Pack<T>>(apart, AllOf(guardOf(src1), guardOf(src2)), count, multiply);
 }
 
 // Gap-free vectors: registers run along the elements of the result, as many objects to a block as a
@@ -178,8 +194,8 @@ qorStatus vectorProducts(const A& src1, const B& src2, const D& dst, Count count
         const std::ptrdiff_t done = multiplyPacked(src1, src2, dst, countOf.value);
         if (done == countOf.value) return qorStatusOk;
         const Share rest = {0, static_cast<int>(done), 0, nullptr};
-        return vectorProductsInLanes(src1.share(rest), src2.share(rest), dst.share(rest),
-                                     countOf.value - done);
+        return multiplyVectors(src1.share(rest), src2.share(rest), dst.share(rest),
+                               countOf.value - done);
     } else {
         using T = typename D::Element;
         const auto a = vectorOf(src1, 0, 3);

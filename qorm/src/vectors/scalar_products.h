@@ -88,10 +88,11 @@ template <Order order, class V, class A, class B, class N>
 }
 
 template <Order order, class V, class A, class B, class T, class N, class Finish>
-[[gnu::flatten]] void finishBlocks(const A a, const B b, const Plain<T> dst, std::ptrdiff_t first,
-                                   int live, std::ptrdiff_t blocks, N len, Finish finish) {
+QORM_KERNEL void finishBlocks(const A a, const B b, const Plain<T> dst, std::ptrdiff_t first,
+                              int live, std::ptrdiff_t blocks, N len, Finish finish) {
     if constexpr (laneCount<V> == 1) {
-        dst.object(first)(0) = finish(productOfOne<order>(a, b, first, len));
+        for (std::ptrdiff_t object = first; object < first + blocks; ++object)
+            dst.object(object)(0) = finish(productOfOne<order>(a, b, object, len));
     } else {
         const auto finishBlock = [&](std::ptrdiff_t object, int liveLanes)
             __attribute__((always_inline)) {
@@ -106,6 +107,13 @@ template <Order order, class V, class A, class B, class T, class N, class Finish
 template <Order order, class A, class B, class T, class Finish>
 qorStatus productsInLanes(const A& a, const B& b, const Plain<T>& dst, std::ptrdiff_t len,
                           std::ptrdiff_t count, const Finish& finish) {
+    const auto run = [&](const auto& inBlocks) {
+        return withStaticSize(len, [&](auto n) {
+            return inBlocks([&]<class V>(std::ptrdiff_t first, int live, std::ptrdiff_t blocks) {
+                finishBlocks<order, V>(a, b, dst, first, live, blocks, n, finish);
+            });
+        });
+    };
     const auto guardOf = [&](const auto& vectors) {
         ReadAhead guard(spansOf(vectors, 1, len), spansOf(dst), count);
         if (!canLeaveOut(vectors, len)) guard.allowNever();
@@ -115,19 +123,18 @@ qorStatus productsInLanes(const A& a, const B& b, const Plain<T>& dst, std::ptrd
         return canLeaveOut(vectors, len) &&
                areSurelyApart(spansOf(vectors, 1, len), spansOf(dst), count);
     };
-    const auto run = [&](bool apart, const auto& guard) {
-        return withStaticSize(len, [&](auto n) {
-            return inManyLanes<Pack<T>>(
-                apart, guard, count,
-                [&]<class V>(std::ptrdiff_t first, int live, std::ptrdiff_t blocks) {
-                    finishBlocks<order, V>(a, b, dst, first, live, blocks, n, finish);
-                });
-        });
+    const auto runGuarded = [&](const auto&... vectors) {
+        if ((costOfLanes(vectors, 1, len) + ...) >= leastForScalars)
+            return run([&](const auto& work) { return inScalars<T>(count, work); });
+        const bool apart = (isApart(vectors) && ...);
+        const AllOf guard(guardOf(vectors)...);
+        return run(
+            [&](const auto& work) { return inManyLanes<Pack<T>>(apart, guard, count, work); });
     };
     if constexpr (isItself<B>)
-        return run(isApart(a), guardOf(a));
+        return runGuarded(a);
     else
-        return run(isApart(a) && isApart(b), AllOf(guardOf(a), guardOf(b)));
+        return runGuarded(a, b);
 }
 
 } // namespace qorm::vectors
