@@ -1,5 +1,8 @@
-/** @file qorcore.h
- *  The settings that the qor libraries share: the number of threads.
+/** @defgroup Threads Threads
+ *  The setting that the qor libraries share: the number of threads. How calls use it is told in
+ *  the @ref conventions.
+ *
+ *  @{
  */
 #ifndef QORCORE_H
 #define QORCORE_H
@@ -26,6 +29,8 @@ QORCORE_API void qorSetThreadCount(int32_t threads);
 
 /** Tells #threads_omp_of_n_qor. */
 QORCORE_API int32_t qorGetThreadCount(void);
+
+/** @} */
 
 #ifdef __cplusplus
 }

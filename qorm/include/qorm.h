@@ -1,6 +1,5 @@
-/** @file qorm.h
- *  All of qorm: small-matrix operations on data where it lies.
- *  qorm/types.h tells the conventions that all functions share.
+/* All of qorm: small-matrix operations on data where it lies.
+ * qorm/types.h tells the conventions that all functions share.
  */
 #ifndef QORM_H
 #define QORM_H

@@ -1,21 +1,50 @@
-/** @file add.h
+/** @defgroup Add Add: sums
  *  Sums, element by element: of matrices, of vectors, and of a vector and a constant.
  *
- *  Shapes. Of matrices, `width` and `height` are those of the destination. An operand used as
- *  stored (`m`, `ma`) has the same; an operand used transposed (`t`, `ta`) lies in memory with
- *  `width` rows and `height` columns. Of vectors, all have `len` elements. In array forms the
- *  destination is an array of `count` objects and a single operand or constant serves every object.
+ *  ## Shapes
  *
- *  Arithmetic. One IEEE addition per element, in the element type; the bits do not depend on the
- *  path, the layout or the threads. No status but that of a failed check is ever returned.
+ *  | Shapes                  | Formula        | Shapes | Formula               |
+ *  |-------------------------|----------------|--------|-----------------------|
+ *  | `mm` `tm` `tt`          | dst = A + B    | `vv`   | dst = x + y           |
+ *  | `mam` `tam` `mat` `tat` | dstₙ = Aₙ + B  | `vav`  | dstₙ = xₙ + y         |
+ *  | `mama` `tama` `tata`    | dstₙ = Aₙ + Bₙ | `vava` | dstₙ = xₙ + yₙ        |
+ *  |                         |                | `vc`   | dst(i) = x(i) + val   |
+ *  |                         |                | `vac`  | dstₙ(i) = xₙ(i) + val |
  *
- *  In place. The destination may coincide with an operand used as stored of the same shape and
- *  strides. A destination that overlaps a transposed operand, or a single operand of an array
- *  form, is not defined. Other overlaps are defined only for `vv` and `vc` without suffix where
- *  every stride is the element size (`vv` not at lengths 3 to 6): elements are done one by one, i
- *  ascending.
+ *  Element (i,j) of the destination takes A(i,j) where the letter is `m` and A(j,i) where it is
+ *  `t`, and B likewise. A and x are `pSrc1`, or `pSrc` beside a constant; B and y are `pSrc2`.
+ *  `width` and `height` are those of the destination: an operand read transposed lies in memory
+ *  with `width` rows and `height` columns. All vectors have `len` elements. Array forms exist in
+ *  all three layouts, others by strides and in `_P`. For A + Bᵀ exchange the operands.
  *
- *  Layouts, units and statuses: qorm/types.h.
+ *  ## Arithmetic
+ *
+ *  One IEEE addition per element; no other bits are possible on any path.
+ *
+ *  ## In place
+ *
+ *  The destination may coincide with an operand read as stored. A destination that overlaps a
+ *  transposed operand is not defined. Other overlaps are defined only for `vv` and `vc` by strides
+ *  where every `stride2` is the element size, `vv` not at lengths 3 to 6: elements are done one by
+ *  one, i ascending.
+ *
+ *  ## Cost
+ *
+ *  One addition per element: the time is that of the memory that is touched. A call spreads over
+ *  threads where its work W reaches
+ *
+ *  | Shapes                  | W              | strides              | `_P`  | `_L`          |
+ *  |-------------------------|----------------|----------------------|-------|---------------|
+ *  | `mam` `tam` `mat` `tat` | w·h·(2c + 1)   | 36864, general 18432 | 9216  | 18432         |
+ *  | `mama` `tama` `tata`    | 3w·h·c         | 36864, general 18432 | 9216  | 18432         |
+ *  | `vav` `vac`             | `len`·(2c + 1) | 20001                | 20001 | 40001 / 20001 |
+ *  | `vava`                  | 3·`len`·c      | 20001                | 20001 | 40001 / 20001 |
+ *
+ *  ## Statuses
+ *
+ *  None but that of a failed check is ever returned; NaN and infinity take their course.
+ *
+ *  @{
  */
 #ifndef QORM_ADD_H
 #define QORM_ADD_H
@@ -26,7 +55,7 @@
 extern "C" {
 #endif
 
-/** @name Sum of two matrices: dst(i,j) = A(i,j) + B(i,j)
+/** @name Sum of two matrices: dst = A + B
  *  Checks, in this order: null pointer, size, strides (`_P`: shifts).
  *  @{ */
 QORM_API qorStatus qormAdd_mm_32f(const float* pSrc1, int32_t src1Stride1, int32_t src1Stride2,
@@ -79,7 +108,7 @@ QORM_API qorStatus qormAdd_tt_64f_P(const double* const* ppSrc1, int32_t src1Shi
                                     int32_t height);
 /** @} */
 
-/** @name Sum of each matrix of an array and one matrix: dst_n(i,j) = A_n(i,j) + B(i,j)
+/** @name Sum of each matrix of an array and one matrix: dstₙ = Aₙ + B
  *  Checks, in this order: null pointer, count, size, strides, shifts (`_P`, `_L`).
  *  The forms of `mam` without suffix alone test the strides before the size.
  *  @{ */
@@ -205,7 +234,7 @@ QORM_API qorStatus qormAdd_tat_64f_L(const double* const* ppSrc1, int32_t src1Sh
                                      int32_t width, int32_t height, int32_t count);
 /** @} */
 
-/** @name Sum of two arrays, object by object: dst_n(i,j) = A_n(i,j) + B_n(i,j)
+/** @name Sum of two arrays, object by object: dstₙ = Aₙ + Bₙ
  *  Checks, in this order: null pointer, count, size, strides, shifts (`_P`, `_L`).
  *  @{ */
 QORM_API qorStatus qormAdd_mama_32f(const float* pSrc1, int32_t src1Stride0, int32_t src1Stride1,
@@ -339,7 +368,7 @@ QORM_API qorStatus qormAdd_vc_64f_P(const double* const* ppSrc, int32_t srcShift
                                     double* const* ppDst, int32_t dstShift, int32_t len);
 /** @} */
 
-/** @name Sum of each vector of an array and one vector: dst_n(i) = x_n(i) + y(i)
+/** @name Sum of each vector of an array and one vector: dstₙ(i) = xₙ(i) + y(i)
  *  Checks, in this order: null pointer, size, strides, count; shifts come behind the count in `_P`
  *  and before it in `_L`.
  *  @{ */
@@ -369,7 +398,7 @@ QORM_API qorStatus qormAdd_vav_64f_L(const double* const* ppSrc1, int32_t src1Sh
                                      int32_t len, int32_t count);
 /** @} */
 
-/** @name Sum of each vector of an array and a constant: dst_n(i) = x_n(i) + val
+/** @name Sum of each vector of an array and a constant: dstₙ(i) = xₙ(i) + val
  *  Checks, in this order: null pointer, count, size, strides, shifts (`_P`, `_L`).
  *  @{ */
 QORM_API qorStatus qormAdd_vac_32f(const float* pSrc, int32_t srcStride0, int32_t srcStride2,
@@ -396,7 +425,7 @@ QORM_API qorStatus qormAdd_vac_64f_L(const double* const* ppSrc, int32_t srcShif
                                      int32_t count);
 /** @} */
 
-/** @name Sum of two arrays of vectors, object by object: dst_n(i) = x_n(i) + y_n(i)
+/** @name Sum of two arrays of vectors, object by object: dstₙ(i) = xₙ(i) + yₙ(i)
  *  Checks, in this order: null pointer, count, size, strides, shifts (`_P`, `_L`).
  *  @{ */
 QORM_API qorStatus qormAdd_vava_32f(const float* pSrc1, int32_t src1Stride0, int32_t src1Stride2,
@@ -427,6 +456,8 @@ QORM_API qorStatus qormAdd_vava_64f_L(const double* const* ppSrc1, int32_t src1S
                                       int32_t src2Shift, int32_t src2Stride2, double* const* ppDst,
                                       int32_t dstShift, int32_t dstStride2, int32_t len,
                                       int32_t count);
+/** @} */
+
 /** @} */
 
 #ifdef __cplusplus

@@ -1,38 +1,52 @@
-/** @file copy.h
+/** @defgroup Copy Copy: between layouts
  *  Copies of arrays from any layout into any layout.
  *
- *  Shapes. Source and destination are arrays of `count` vectors of `len` elements (`va`), or of
- *  `count` matrices of `height` rows and `width` columns (`ma`).
+ *  ## Shapes
  *
- *  Names. The two letters at the end tell the layouts, **that of the source first**: `S` is the
- *  layout that other functions have without a suffix, `P` a pointer per element, `L` a pointer per
- *  object. Source and destination each bring the arguments of their own layout; strides and shifts
- *  are bytes:
+ *  | Shape | Formula               | Objects                                               |
+ *  |-------|-----------------------|-------------------------------------------------------|
+ *  | `va`  | dstₙ(i) = srcₙ(i)     | `count` vectors of `len` elements                     |
+ *  | `ma`  | dstₙ(i,j) = srcₙ(i,j) | `count` matrices of `height` rows and `width` columns |
  *
- *      letter   va                             ma
- *      S        pSrc, srcStride0, srcStride2   pSrc, srcStride0, srcStride1, srcStride2
- *      P        ppSrc, srcShift, srcStride0    ppSrc, srcShift, srcStride0
- *      L        ppSrc, srcShift, srcStride2    ppSrc, srcShift, srcStride1, srcStride2
+ *  ## Layouts
  *
- *  Tables of `P` have the same order of positions on either side: of a matrix row by row.
+ *  The two letters at the end of a name tell the layouts, **that of the source first**. Source and
+ *  destination each bring the arguments of their own layout, behind the pointer or the table:
  *
- *  Checks. The size comes before the count, and **of a single object no `stride0` is tested**: with
+ *  | Letter | Layout                | Arguments of `va`    | Arguments of `ma`               |
+ *  |--------|-----------------------|----------------------|---------------------------------|
+ *  | `S`    | strides               | `stride0`, `stride2` | `stride0`, `stride1`, `stride2` |
+ *  | `P`    | a pointer per element | `shift`, `stride0`   | `shift`, `stride0`              |
+ *  | `L`    | a pointer per object  | `shift`, `stride2`   | `shift`, `stride1`, `stride2`   |
+ *
+ *  Tables of `P` have the same order of positions on either side: of a matrix row by row. The size
+ *  comes before the count among the checks, and **of a single object no `stride0` is tested**: with
  *  a `count` of 1 it is ignored.
  *
- *  Bits. Elements are moved, never computed with: every bit pattern passes unchanged, NaN included.
+ *  ## Bits
  *
- *  Overlap. Source and destination may overlap in any way, since the order of the moves is fixed:
- *  objects ascending, in each its rows from the top, in each row its elements from left to right,
- *  each one loaded and stored before the next. **An element that a move has overwritten is read
- *  with its new value** by the moves behind it: gaps between elements, rows and objects can be
- *  closed in place, but not opened. Where elements of the destination coincide, the last one moved
- *  stays.
+ *  Elements are moved, never computed with: every bit pattern passes unchanged, NaN included.
  *
- *  Threads. A call never spreads over threads, however large the arrays are.
+ *  ## In place
  *
- *  Statuses. None but that of a failed check is ever returned.
+ *  Source and destination may overlap in any way, since the order of the moves is fixed: objects
+ *  ascending, in each its rows from the top, in each row its elements from left to right, each one
+ *  loaded and stored before the next. **An element that a move has overwritten is read with its new
+ *  value** by the moves behind it: gaps between elements, rows and objects can be closed in place,
+ *  but not opened. Where elements of the destination coincide, the last one moved stays.
  *
- *  Example. The positions of a thousand particles out of an array of structures, an array for each
+ *  ## Cost
+ *
+ *  A load and a store per element: the time is that of the memory that is touched. A call never
+ *  spreads over threads, however large the arrays are.
+ *
+ *  ## Statuses
+ *
+ *  None but that of a failed check is ever returned.
+ *
+ *  ## Example
+ *
+ *  The positions of a thousand particles out of an array of structures, an array for each
  *  coordinate, and back:
  *
  *      struct Particle { double position[3], velocity[3]; } particles[1000];
@@ -44,7 +58,7 @@
  *      work(x, y, z);
  *      qormCopy_va_64f_PS((const double* const*)xyz, 0, 8, particles->position, step, 8, 3, 1000);
  *
- *  Layouts, units and statuses: qorm/types.h.
+ *  @{
  */
 #ifndef QORM_COPY_H
 #define QORM_COPY_H
@@ -55,20 +69,22 @@
 extern "C" {
 #endif
 
-/** @name Copies of `count` vectors: dst_n(i) = src_n(i)
+/** @name Copies of an array of vectors: dstₙ(i) = srcₙ(i)
  *  Checks, in this order: null pointer, size, count, then by the letters
  *
- *      SS        both stride2; both stride0
- *      SP, 32f   dstShift; srcStride2; both stride0
- *      SP, 64f   srcStride2; dstShift; both stride0
- *      SL        both stride2; dstShift; srcStride0
- *      PS        dstStride2; srcShift; both stride0
- *      PP        both shifts; both stride0
- *      PL        dstStride2; both shifts; srcStride0
- *      LS        both stride2; srcShift; dstStride0
- *      LP, 32f   both shifts; srcStride2; dstStride0
- *      LP, 64f   srcStride2; both shifts; dstStride0
- *      LL        both stride2; both shifts
+ *  | Letters     | Then                                |
+ *  |-------------|-------------------------------------|
+ *  | `SS`        | both stride2; both stride0          |
+ *  | `SP`, `32f` | dstShift; srcStride2; both stride0  |
+ *  | `SP`, `64f` | srcStride2; dstShift; both stride0  |
+ *  | `SL`        | both stride2; dstShift; srcStride0  |
+ *  | `PS`        | dstStride2; srcShift; both stride0  |
+ *  | `PP`        | both shifts; both stride0           |
+ *  | `PL`        | dstStride2; both shifts; srcStride0 |
+ *  | `LS`        | both stride2; srcShift; dstStride0  |
+ *  | `LP`, `32f` | both shifts; srcStride2; dstStride0 |
+ *  | `LP`, `64f` | srcStride2; both shifts; dstStride0 |
+ *  | `LL`        | both stride2; both shifts           |
  *
  *  each `stride0` only if `count` is above 1.
  *  @{ */
@@ -128,7 +144,7 @@ QORM_API qorStatus qormCopy_va_64f_LL(const double* const* ppSrc, int32_t srcShi
                                       int32_t dstStride2, int32_t len, int32_t count);
 /** @} */
 
-/** @name Copies of `count` matrices: dst_n(i,j) = src_n(i,j)
+/** @name Copies of an array of matrices: dstₙ(i,j) = srcₙ(i,j)
  *  Checks, in this order: null pointer, size, count, `stride1` and `stride2` of operands that have
  *  them, shifts of operands that have one, each `stride0` only if `count` is above 1.
  *  @{ */
@@ -204,6 +220,8 @@ QORM_API qorStatus qormCopy_ma_64f_LL(const double* const* ppSrc, int32_t srcShi
                                       int32_t srcStride1, int32_t srcStride2, double* const* ppDst,
                                       int32_t dstShift, int32_t dstStride1, int32_t dstStride2,
                                       int32_t width, int32_t height, int32_t count);
+/** @} */
+
 /** @} */
 
 #ifdef __cplusplus

@@ -1,37 +1,47 @@
-/** @file extract.h
+/** @defgroup Extract Extract: into a plain array
  *  Elements of vectors and matrices in any layout into a plain array without gaps.
  *
- *  Shapes. `pDst` is a plain array in every layout and takes no strides: `len` elements of each
- *  vector, `width * height` of each matrix, row by row, object n behind object n-1.
+ *  ## Shapes
  *
- *      v    pDst[i]                         = src(i)
- *      va   pDst[n*len + i]                 = src_n(i)
- *      m    pDst[i*width + j]               = src(i,j)
- *      t    pDst[i*width + j]               = src(j,i)
- *      ma   pDst[(n*height + i)*width + j]  = src_n(i,j)
- *      ta   pDst[(n*height + i)*width + j]  = src_n(j,i)
+ *  | Shape | Formula                                      | Layouts             |
+ *  |-------|----------------------------------------------|---------------------|
+ *  | `v`   | `pDst[i]` = src(i)                           | strides, `_P`       |
+ *  | `va`  | `pDst[n*len + i]` = srcₙ(i)                  | strides, `_P`, `_L` |
+ *  | `m`   | `pDst[i*width + j]` = src(i,j)               | strides, `_P`       |
+ *  | `t`   | `pDst[i*width + j]` = src(j,i)               | strides, `_P`       |
+ *  | `ma`  | `pDst[(n*height + i)*width + j]` = srcₙ(i,j) | strides, `_P`, `_L` |
+ *  | `ta`  | `pDst[(n*height + i)*width + j]` = srcₙ(j,i) | strides, `_P`, `_L` |
  *
- *  `width` and `height` are **those of the result**: a matrix read transposed (`t`, `ta`) lies in
- *  memory with `width` rows and `height` columns, and its table of `_P` has element (j,i) at entry
- *  j*height + i. Strides and shifts are bytes.
+ *  `pDst` is a plain array in every layout and takes no strides. `width` and `height` are **those
+ *  of the result**: a matrix read transposed (`t`, `ta`) lies in memory with `width` rows and
+ *  `height` columns, and its table of `_P` has element (j,i) at entry `j*height + i`.
  *
- *  Checks. The size comes before the count, and in `_P` and `_L` forms the shift comes before the
- *  strides. `_P` forms of `m` and `t`, and #qormExtract_v_64f_P, test the size even before the
- *  pointers. Unlike in copy.h and loadidentity.h, `srcStride0` is tested at every `count`.
+ *  The size comes before the count among the checks, and in `_P` and `_L` forms the shift before
+ *  the strides. `_P` forms of `m` and `t`, and #qormExtract_v_64f_P, test the size even before the
+ *  pointers. Unlike in @ref Copy and @ref LoadIdentity, `srcStride0` is tested at every `count`.
  *
- *  Bits. Elements are moved, never computed with: every bit pattern passes unchanged, NaN included.
+ *  ## Bits
  *
- *  Overlap. Elements are moved one by one in the order of the destination, but in `_P` forms of
- *  arrays position by position, each for all objects. An element that a move has overwritten is
- *  read with its new value by the moves behind it: gaps between elements, rows and objects can be
- *  closed in place. In `_P` forms of `t` and `ta` a destination that overlaps the source is not
- *  defined.
+ *  Elements are moved, never computed with: every bit pattern passes unchanged, NaN included.
  *
- *  Threads. A call never spreads over threads, however large the arrays are.
+ *  ## In place
  *
- *  Statuses. None but that of a failed check is ever returned.
+ *  Elements are moved one by one in the order of the destination, but in `_P` forms of arrays
+ *  position by position, each for all objects. An element that a move has overwritten is read with
+ *  its new value by the moves behind it. So `v`, `va`, `m` and `ma` can close gaps between
+ *  elements, rows and objects in place, but not in `_P` forms of arrays. In `_P` forms of `t` and
+ *  `ta` a destination that overlaps the source is not defined.
  *
- *  Layouts, units and statuses: qorm/types.h.
+ *  ## Cost
+ *
+ *  A load and a store per element: the time is that of the memory that is touched. A call never
+ *  spreads over threads, however large the arrays are.
+ *
+ *  ## Statuses
+ *
+ *  None but that of a failed check is ever returned.
+ *
+ *  @{
  */
 #ifndef QORM_EXTRACT_H
 #define QORM_EXTRACT_H
@@ -42,7 +52,7 @@
 extern "C" {
 #endif
 
-/** @name Elements of one vector: pDst[i] = src(i)
+/** @name Elements of one vector
  *  Checks, in this order: null pointer, size, stride (`_P`: shift); in #qormExtract_v_64f_P size,
  *  null pointer, shift.
  *  @{ */
@@ -56,7 +66,7 @@ QORM_API qorStatus qormExtract_v_64f_P(const double* const* ppSrc, int32_t srcSh
                                        int32_t len);
 /** @} */
 
-/** @name Elements of `count` vectors: pDst[n*len + i] = src_n(i)
+/** @name Elements of an array of vectors
  *  Checks, in this order: null pointer, size, count, shift (`_P`, `_L`), strides.
  *  @{ */
 QORM_API qorStatus qormExtract_va_32f(const float* pSrc, int32_t srcStride0, int32_t srcStride2,
@@ -77,7 +87,7 @@ QORM_API qorStatus qormExtract_va_64f_L(const double* const* ppSrc, int32_t srcS
                                         int32_t count);
 /** @} */
 
-/** @name Elements of one matrix: pDst[i*width + j] = src(i,j)
+/** @name Elements of one matrix
  *  Checks, in this order: null pointer, size, strides; in `_P` forms size, null pointer, shift.
  *  @{ */
 QORM_API qorStatus qormExtract_m_32f(const float* pSrc, int32_t srcStride1, int32_t srcStride2,
@@ -90,7 +100,7 @@ QORM_API qorStatus qormExtract_m_64f_P(const double* const* ppSrc, int32_t srcSh
                                        int32_t width, int32_t height);
 /** @} */
 
-/** @name Elements of one matrix read transposed: pDst[i*width + j] = src(j,i)
+/** @name Elements of one matrix read transposed
  *  Checks, in this order: null pointer, size, strides; in `_P` forms size, null pointer, shift.
  *  @{ */
 QORM_API qorStatus qormExtract_t_32f(const float* pSrc, int32_t srcStride1, int32_t srcStride2,
@@ -103,7 +113,7 @@ QORM_API qorStatus qormExtract_t_64f_P(const double* const* ppSrc, int32_t srcSh
                                        int32_t width, int32_t height);
 /** @} */
 
-/** @name Elements of `count` matrices: pDst[(n*height + i)*width + j] = src_n(i,j)
+/** @name Elements of an array of matrices
  *  Checks, in this order: null pointer, size, count, shift (`_P`, `_L`), strides.
  *  @{ */
 QORM_API qorStatus qormExtract_ma_32f(const float* pSrc, int32_t srcStride0, int32_t srcStride1,
@@ -126,7 +136,7 @@ QORM_API qorStatus qormExtract_ma_64f_L(const double* const* ppSrc, int32_t srcS
                                         int32_t width, int32_t height, int32_t count);
 /** @} */
 
-/** @name Elements of `count` matrices read transposed: pDst[(n*height + i)*width + j] = src_n(j,i)
+/** @name Elements of an array of matrices read transposed
  *  Checks, in this order: null pointer, size, count, shift (`_P`, `_L`), strides.
  *  @{ */
 QORM_API qorStatus qormExtract_ta_32f(const float* pSrc, int32_t srcStride0, int32_t srcStride1,
@@ -147,6 +157,8 @@ QORM_API qorStatus qormExtract_ta_64f_P(const double* const* ppSrc, int32_t srcS
 QORM_API qorStatus qormExtract_ta_64f_L(const double* const* ppSrc, int32_t srcShift,
                                         int32_t srcStride1, int32_t srcStride2, double* pDst,
                                         int32_t width, int32_t height, int32_t count);
+/** @} */
+
 /** @} */
 
 #ifdef __cplusplus

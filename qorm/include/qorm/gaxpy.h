@@ -1,32 +1,53 @@
-/** @file gaxpy.h
- *  Sums of a matrix-vector product and a vector: dst = A*x + y.
+/** @defgroup Gaxpy Gaxpy: a product plus a vector
+ *  Sums of a matrix-vector product and a vector: dst = A·x + y.
  *
- *  Shapes. `pSrc1` is A, of `src1Width` columns and `src1Height` rows, read as stored. `pSrc2` is
- *  x, of `src2Len` elements, which has to be `src1Width`; `pSrc3` is y, of `src3Len` elements,
- *  which has to be `src1Height` and is the length of the destination, too. In `mva` x, y and the
- *  destination are arrays of `count` vectors, and A serves every object. No stride may be 0: to add
- *  one y to every product, use `_L` with a table that repeats its pointer. The operation is the
- *  gaxpy of Golub and Van Loan, "Matrix Computations", section 1.1, with a destination of its own.
+ *  ## Shapes
  *
- *  Arithmetic. Element i is
+ *  | Shape | Formula          | Layouts             |
+ *  |-------|------------------|---------------------|
+ *  | `mv`  | dst = A·x + y    | strides, `_P`       |
+ *  | `mva` | dstₙ = A·xₙ + yₙ | strides, `_P`, `_L` |
  *
- *      (A(i,0)*x(0) + A(i,1)*x(1) + ...) + y(i)
+ *  | Argument | Operand | Size                                                   |
+ *  |----------|---------|--------------------------------------------------------|
+ *  | `pSrc1`  | A       | `src1Width` columns, `src1Height` rows, read as stored |
+ *  | `pSrc2`  | x       | `src2Len` elements, which has to be `src1Width`        |
+ *  | `pSrc3`  | y       | `src3Len` elements, which has to be `src1Height`       |
+ *  | `pDst`   | dst     | `src3Len` elements                                     |
  *
- *  with the products added from left to right and y(i) last, every product and every sum rounded to
- *  the element type: no wider accumulator, no fused multiply-add. Where A is 3x3, 4x4, 5x5 or 6x6
- *  the sum starts with the first product, at all other sizes with +0; that shows in the sign of a
- *  zero alone. The bits do not depend on the layout, the alignment or the threads.
+ *  In `mva` x, y and the destination are arrays of `count` vectors, and A serves every object. No
+ *  stride may be 0: to add one y to every product, use `_L` with a table that repeats its pointer.
+ *  The operation is the gaxpy of Golub and Van Loan, "Matrix Computations", section 1.1, with a
+ *  destination of its own.
  *
- *  In place. **Where A is 3x3, 4x4, 5x5 or 6x6, and only there**, the destination may coincide,
- *  object for object, with y or with x. At all other sizes it must not overlap an operand: elements
- *  are written before y and the rest of x are read, and with `pDst` equal to `pSrc3` y is lost and
- *  the result is 2*A*x. That is not tested. In `mva` the destination must never overlap A.
+ *  ## Arithmetic
  *
- *  Threads. `mva` spreads from smaller arrays on than other products do.
+ *      dst(i) = (A(i,0)·x(0) + A(i,1)·x(1) + …) + y(i)
  *
- *  Statuses. None but that of a failed check is ever returned; NaN and infinity take their course.
+ *  with the products added from left to right and y(i) last, every product and every sum rounded.
+ *  Where A is 3x3, 4x4, 5x5 or 6x6 the sum starts with the first product, at all other sizes with
+ *  +0; that shows in the sign of a zero alone. The bits do not depend on the alignment either.
  *
- *  Example. A step of a thousand linear systems, each state with an input of its own, in place:
+ *  ## In place
+ *
+ *  **Where A is 3x3, 4x4, 5x5 or 6x6, and only there**, the destination may coincide, object for
+ *  object, with y or with x. At all other sizes it must not overlap an operand: elements are
+ *  written before y and the rest of x are read, and with `pDst` equal to `pSrc3` y is lost and the
+ *  result is 2·A·x. That is not tested. In `mva` the destination must never overlap A.
+ *
+ *  ## Cost
+ *
+ *  A multiplication for each element of A. A call of `mva` spreads over threads from smaller arrays
+ *  on than other products do: where its work W = (`src2Len` + 2·`src3Len`)·c reaches 5001, in every
+ *  layout.
+ *
+ *  ## Statuses
+ *
+ *  None but that of a failed check is ever returned; NaN and infinity take their course.
+ *
+ *  ## Example
+ *
+ *  A step of a thousand linear systems, each state with an input of its own, in place:
  *
  *      double f[4][4];
  *      struct System { double state[4], input[4]; } s[1000];
@@ -35,7 +56,7 @@
  *      qormGaxpy_mva_64f(f[0], 32, 8, 4, 4, s->state, step, 8, 4, s->input, step, 8, 4,
  *                        s->state, step, 8, 1000);
  *
- *  Layouts, units and statuses: qorm/types.h.
+ *  @{
  */
 #ifndef QORM_GAXPY_H
 #define QORM_GAXPY_H
@@ -46,7 +67,7 @@
 extern "C" {
 #endif
 
-/** @name One matrix with one x and y: dst = A*x + y
+/** @name One matrix with one x and y: dst = A·x + y
  *  Checks, in this order: null pointer, sizes, size match, strides (`_P`: shifts).
  *  @{ */
 QORM_API qorStatus qormGaxpy_mv_32f(const float* pSrc1, int32_t src1Stride1, int32_t src1Stride2,
@@ -73,7 +94,7 @@ QORM_API qorStatus qormGaxpy_mv_64f_P(const double* const* ppSrc1, int32_t src1S
                                       int32_t dstShift);
 /** @} */
 
-/** @name One matrix with `count` vectors x and y: dst_n = A*x_n + y_n
+/** @name One matrix with arrays of vectors x and y: dstₙ = A·xₙ + yₙ
  *  In `_L` forms the matrix is in the layout without suffix, the vectors are in lists.
  *  Checks, in this order: null pointer, count, sizes, size match, strides, shifts (`_P`, `_L`).
  *  @{ */
@@ -117,6 +138,8 @@ QORM_API qorStatus qormGaxpy_mva_64f_L(const double* pSrc1, int32_t src1Stride1,
                                        const double* const* ppSrc3, int32_t src3Shift,
                                        int32_t src3Stride2, int32_t src3Len, double* const* ppDst,
                                        int32_t dstShift, int32_t dstStride2, int32_t count);
+/** @} */
+
 /** @} */
 
 #ifdef __cplusplus

@@ -1,39 +1,58 @@
-/** @file l2norm.h
- *  Euclidean lengths of vectors: the square root of the sum over k of x(k)*x(k).
+/** @defgroup L2Norm L2Norm: lengths of vectors
+ *  Euclidean lengths of vectors: √(Σₖ x(k)²).
  *
- *  Shapes. `pSrc` is a vector (or an array of `count`) of `len` elements. `pDst` has one element
- *  per vector, in every layout a plain array: the length of object n is `pDst[n]`.
+ *  ## Shapes
  *
- *  Arithmetic. All is done in the element type, every square s(k) = x(k)*x(k), every sum and the
- *  root correctly rounded: no wider accumulator, no fused multiply-add. Squares are added from left
- *  to right, but for two members.
+ *  | Shape | Formula             | Layouts             |
+ *  |-------|---------------------|---------------------|
+ *  | `v`   | dst = √(Σₖ x(k)²)   | strides, `_P`       |
+ *  | `va`  | dstₙ = √(Σₖ xₙ(k)²) | strides, `_P`, `_L` |
+ *
+ *  `pSrc` is a vector (or an array of `count`) of `len` elements. `pDst` has one element per
+ *  vector, in every layout a plain array: the length of object n is `pDst[n]`.
+ *
+ *  ## Arithmetic
+ *
+ *  Every square s(k) = x(k)·x(k), every sum and the root are correctly rounded. Squares are added
+ *  from left to right, but for two members.
  *
  *  **#qormL2Norm_v_32f from length 11 on and #qormL2Norm_v_64f from length 9 on add in blocks**
  *  where `srcStride2` is the element size. Their last bits may then differ from those of `va` and
  *  of other layouts, and with the address. Partial sums start at 0 and take the squares in blocks
- *  of eight, q0 to q7; to the sum of all partial sums the squares left over are added one by one.
+ *  of eight, q₀ to q₇; to the sum of all partial sums the squares left over are added one by one.
  *
- *      type   partial sums                           their sum
- *      32f    Lt takes qt, t = 0..7                  ((L0+L4) + (L1+L5)) + ((L2+L6) + (L3+L7))
- *      64f    Lt takes qt, then q(t+4), t = 0..3     (L0+L2) + (L1+L3)
+ *  | Type  | Partial sums                      | Their sum                                 |
+ *  |-------|-----------------------------------|-------------------------------------------|
+ *  | `32f` | Lₜ takes qₜ, t = 0 … 7            | ((L₀+L₄) + (L₁+L₅)) + ((L₂+L₆) + (L₃+L₇)) |
+ *  | `64f` | Lₜ takes qₜ, then qₜ₊₄, t = 0 … 3 | (L₀+L₂) + (L₁+L₃)                         |
  *
  *  If `pSrc` is no multiple of the element size, there are no blocks, and the sum runs from left to
- *  right. Else the squares before the first multiple of 16 (none to three in 32f, none or one in
- *  64f) are added up first, from left to right, and L0 starts with their sum.
+ *  right. Else the squares before the first multiple of 16 (none to three in `32f`, none or one in
+ *  `64f`) are added up first, from left to right, and L₀ starts with their sum.
  *
- *  Range. Nothing is scaled. A sum that overflows gives infinity, squares that underflow lose
- *  digits or count as 0: keep the larger elements between about 1e-19 and 1e19 in 32f, 1e-154 and
- *  1e154 in 64f.
+ *  ## Range and accuracy
  *
- *  Accuracy. Squares don't cancel: the relative error is at most about `len`/2 + 1 roundings
- *  (Higham, "Accuracy and Stability of Numerical Algorithms", section 3.1).
+ *  Nothing is scaled. A sum that overflows gives infinity, squares that underflow lose digits or
+ *  count as 0: keep the larger elements between about 10⁻¹⁹ and 10¹⁹ in `32f`, 10⁻¹⁵⁴ and 10¹⁵⁴ in
+ *  `64f`. Squares don't cancel: the relative error is at most about `len`/2 + 1 roundings (Higham,
+ *  "Accuracy and Stability of Numerical Algorithms", section 3.1).
  *
- *  In place. `pDst[n]` may lie in vector n: it is written after the sum. It must not lie in another
- *  vector.
+ *  ## In place
  *
- *  Statuses. None but that of a failed check is ever returned; NaN and infinity take their course.
+ *  `pDst[n]` may lie in vector n: it is written after the sum. It must not lie in another vector.
  *
- *  Example: crossproduct.h. Layouts, units and statuses: qorm/types.h.
+ *  ## Cost
+ *
+ *  One multiplication and one addition per element, and a root. A call of `va` spreads over threads
+ *  where its work W = `len`·c reaches 20001, in every layout.
+ *
+ *  ## Statuses
+ *
+ *  None but that of a failed check is ever returned; NaN and infinity take their course.
+ *
+ *  There is an example at @ref CrossProduct.
+ *
+ *  @{
  */
 #ifndef QORM_L2NORM_H
 #define QORM_L2NORM_H
@@ -44,7 +63,7 @@
 extern "C" {
 #endif
 
-/** @name Length of one vector: pDst[0] = sqrt(sum over k of x(k)*x(k))
+/** @name Length of one vector: dst = √(Σₖ x(k)²)
  *  Checks, in this order: null pointer, size, stride (`_P`: shift).
  *  @{ */
 QORM_API qorStatus qormL2Norm_v_32f(const float* pSrc, int32_t srcStride2, float* pDst,
@@ -57,7 +76,7 @@ QORM_API qorStatus qormL2Norm_v_64f_P(const double* const* ppSrc, int32_t srcShi
                                       int32_t len);
 /** @} */
 
-/** @name Lengths of `count` vectors: pDst[n] = sqrt(sum over k of x_n(k)*x_n(k))
+/** @name Lengths of an array of vectors: dstₙ = √(Σₖ xₙ(k)²)
  *  Checks, in this order: null pointer, count, size, strides, shift (`_P`, `_L`).
  *  @{ */
 QORM_API qorStatus qormL2Norm_va_32f(const float* pSrc, int32_t srcStride0, int32_t srcStride2,
@@ -74,6 +93,8 @@ QORM_API qorStatus qormL2Norm_va_64f_P(const double* const* ppSrc, int32_t srcSh
 QORM_API qorStatus qormL2Norm_va_64f_L(const double* const* ppSrc, int32_t srcShift,
                                        int32_t srcStride2, double* pDst, int32_t len,
                                        int32_t count);
+/** @} */
+
 /** @} */
 
 #ifdef __cplusplus

@@ -1,22 +1,44 @@
-/** @file lcomb.h
- *  Linear combinations of two vectors: dst = x*val1 + y*val2.
+/** @defgroup LComb LComb: linear combinations of two vectors
+ *  Linear combinations of two vectors: dst = x·val1 + y·val2.
  *
- *  Shapes. `pSrc1` is x, `pSrc2` is y; each is followed by its constant among the arguments. All
- *  vectors have `len` elements. In array forms the destination is an array of `count` vectors; the
- *  constants and a single y serve every object.
+ *  ## Shapes
  *
- *  Arithmetic. Three operations per element in the element type: both products are rounded, then
- *  the sum; they are never fused. The bits do not depend on the path, the layout or the threads. No
- *  value of a constant is treated apart: 0 times infinity is NaN.
+ *  | Shape  | Formula                           |
+ *  |--------|-----------------------------------|
+ *  | `vv`   | dst(i) = x(i)·val1 + y(i)·val2    |
+ *  | `vav`  | dstₙ(i) = xₙ(i)·val1 + y(i)·val2  |
+ *  | `vava` | dstₙ(i) = xₙ(i)·val1 + yₙ(i)·val2 |
  *
- *  In place. The destination may coincide with a vector of the same shape and strides. A
- *  destination that overlaps a single vector of an array form is not defined. Other overlaps are
- *  defined only for `vv` without suffix where every stride is the element size: elements are done
- *  one by one, i ascending.
+ *  `pSrc1` is x, `pSrc2` is y; each is followed by its constant among the arguments. All vectors
+ *  have `len` elements; the constants serve every object. Array forms exist in all three layouts,
+ *  `vv` by strides and in `_P`.
  *
- *  Statuses. None but that of a failed check is ever returned; NaN and infinity take their course.
+ *  ## Arithmetic
  *
- *  Layouts, units and statuses: qorm/types.h.
+ *  Three operations per element: both products are rounded, then the sum; they are never fused. No
+ *  other bits are possible on any path. No value of a constant is treated apart: 0 times infinity
+ *  is NaN.
+ *
+ *  ## In place
+ *
+ *  The destination may coincide with a vector. Other overlaps are defined only for `vv` by strides
+ *  where every `stride2` is the element size: elements are done one by one, i ascending.
+ *
+ *  ## Cost
+ *
+ *  Two multiplications and one addition per element. A call spreads over threads where its work W
+ *  reaches
+ *
+ *  | Shape  | W              | strides | `_P`  | `_L`                         |
+ *  |--------|----------------|---------|-------|------------------------------|
+ *  | `vav`  | `len`·(2c + 1) | 20001   | 20001 | 40001 / 20001, general 20001 |
+ *  | `vava` | 3·`len`·c      | 20001   | 20001 | 40001 / 20001, general 20001 |
+ *
+ *  ## Statuses
+ *
+ *  None but that of a failed check is ever returned; NaN and infinity take their course.
+ *
+ *  @{
  */
 #ifndef QORM_LCOMB_H
 #define QORM_LCOMB_H
@@ -27,7 +49,7 @@
 extern "C" {
 #endif
 
-/** @name Combination of two vectors: dst(i) = x(i)*val1 + y(i)*val2
+/** @name Combination of two vectors: dst(i) = x(i)·val1 + y(i)·val2
  *  Checks, in this order: null pointer, size, strides (`_P`: shifts).
  *  @{ */
 QORM_API qorStatus qormLComb_vv_32f(const float* pSrc1, int32_t src1Stride2, float val1,
@@ -44,7 +66,7 @@ QORM_API qorStatus qormLComb_vv_64f_P(const double* const* ppSrc1, int32_t src1S
                                       double* const* ppDst, int32_t dstShift, int32_t len);
 /** @} */
 
-/** @name Combination of each vector of an array and one vector: dst_n(i) = x_n(i)*val1 + y(i)*val2
+/** @name Combination of each vector of an array and one vector: dstₙ(i) = xₙ(i)·val1 + y(i)·val2
  *  Checks, in this order: null pointer, count, size, strides, shifts (`_P`, `_L`).
  *  @{ */
 QORM_API qorStatus qormLComb_vav_32f(const float* pSrc1, int32_t src1Stride0, int32_t src1Stride2,
@@ -77,7 +99,7 @@ QORM_API qorStatus qormLComb_vav_64f_L(const double* const* ppSrc1, int32_t src1
                                        int32_t count);
 /** @} */
 
-/** @name Combination of two arrays, object by object: dst_n(i) = x_n(i)*val1 + y_n(i)*val2
+/** @name Combination of two arrays, object by object: dstₙ(i) = xₙ(i)·val1 + yₙ(i)·val2
  *  Checks, in this order: null pointer, count, size, strides, shifts (`_P`, `_L`).
  *  @{ */
 QORM_API qorStatus qormLComb_vava_32f(const float* pSrc1, int32_t src1Stride0, int32_t src1Stride2,
@@ -112,6 +134,8 @@ QORM_API qorStatus qormLComb_vava_64f_L(const double* const* ppSrc1, int32_t src
                                         int32_t src2Stride2, double val2, double* const* ppDst,
                                         int32_t dstShift, int32_t dstStride2, int32_t len,
                                         int32_t count);
+/** @} */
+
 /** @} */
 
 #ifdef __cplusplus

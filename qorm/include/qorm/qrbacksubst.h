@@ -1,34 +1,65 @@
-/** @file qrbacksubst.h
+/** @defgroup QRBackSubst QRBackSubst: solutions and least squares from QR factors
  *  Solutions of linear systems and least-squares problems from QR factors.
  *
- *  x solves A*x = b where A is square; where it has more rows than columns, x makes the length of
- *  b - A*x as small as it can be.
+ *  x solves A·x = b where A is square; where it has more rows than columns, x makes the length of
+ *  b - A·x as small as it can be.
  *
- *  Shapes. `pSrc1` is the destination of qrdecomp.h, a matrix of `height` rows and `width` columns
- *  (or an array of `count`), `width <= height`. `pSrc2` is b, a vector (or an array of `count`) of
- *  `height` elements, `pDst` is x, of `width` elements. Strides and shifts are in bytes. `pBuffer`
- *  is scratch of `height` elements for the whole call. It must not be null at any size, but square
- *  matrices of sizes 3 to 6 don't touch it, and a call that spreads over threads leaves it
- *  untouched. Factors need not come from a call of the same layout.
+ *  ## Shapes
  *
- *  Method. The reflectors are applied to a copy of b, their scales formed again from what is
- *  stored of them, and a backward sweep through R divides by its diagonal (Golub and Van Loan,
- *  "Matrix Computations", sections 5.2 and 5.3). All arithmetic is in the element type, every sum
- *  in a fixed order; that of square matrices of sizes 3 to 6 is another than that of the others.
+ *  | Shape  | Formula        | Layouts             |
+ *  |--------|----------------|---------------------|
+ *  | `mv`   | R·x = Qᵀ·b     | strides, `_P`       |
+ *  | `mva`  | R·xₙ = Qᵀ·bₙ   | strides, `_P`, `_L` |
+ *  | `mava` | Rₙ·xₙ = Qₙᵀ·bₙ | strides, `_P`, `_L` |
  *
- *  In place. x may lie on b, object for object, in the place of its first `width` elements: b is
- *  copied before x is written. It must not overlap a matrix, nor an x or b of another object.
- *  `pBuffer` must overlap nothing.
+ *  `pSrc1` is the destination of @ref QRDecomp, a matrix of `height` rows and `width` columns (or
+ *  an array of `count`), `width` ≤ `height`. `pSrc2` is b, a vector (or an array of `count`) of
+ *  `height` elements, `pDst` is x, of `width` elements. Factors need not come from a call of the
+ *  same layout.
  *
- *  Statuses. None but that of a failed check is ever returned. A zero on R's diagonal gives
- *  infinities or NaN with #qorStatusOk. The factorisation does not test the last column of a
- *  square matrix: look at R's last diagonal element where that may vanish.
+ *  `pBuffer` is scratch of `height` elements for the whole call. It must not be null at any size,
+ *  but square matrices of sizes 3 to 6 don't touch it, and a call that spreads over threads leaves
+ *  it untouched.
  *
- *  Accuracy. The residual b - A*x of a square system is at the level of rounding, and the error of
- *  x is that times the condition number. Where the least residual is not small, the square of the
- *  condition number enters in proportion to it.
+ *  ## Method
  *
- *  Example: qrdecomp.h. Layouts, units and statuses: qorm/types.h.
+ *  The reflectors are applied to a copy of b, their scales formed again from what is stored of
+ *  them, and a backward sweep through R divides by its diagonal (Golub and Van Loan, "Matrix
+ *  Computations", sections 5.2 and 5.3). Every sum is made in a fixed order; that of square
+ *  matrices of sizes 3 to 6 is another than that of the others.
+ *
+ *  ## Accuracy
+ *
+ *  The residual b - A·x of a square system is at the level of rounding, and the error of x is that
+ *  times the condition number. Where the least residual is not small, the square of the condition
+ *  number enters in proportion to it.
+ *
+ *  ## In place
+ *
+ *  x may lie on b, object for object, in the place of its first `width` elements: b is copied
+ *  before x is written. It must not overlap a matrix, nor an x or b of another object. `pBuffer`
+ *  must overlap nothing.
+ *
+ *  ## Cost
+ *
+ *  About 3w·h - w² multiplications per vector, and a division for each reflector and each row of R.
+ *  Nearly a third of that forms the scales, which `mva` does once for square matrices of sizes 3
+ *  to 6. A call spreads over threads where its work W reaches
+ *
+ *  | Shape  | W                 | strides | `_P` | `_L` |
+ *  |--------|-------------------|---------|------|------|
+ *  | `mva`  | w·h + (w + h)·c   | 2801    | 1801 | 1801 |
+ *  | `mava` | (w·(h + 1) + h)·c | 2801    | 1801 | 1801 |
+ *
+ *  ## Statuses
+ *
+ *  None but that of a failed check is ever returned. A zero on R's diagonal gives infinities or NaN
+ *  with #qorStatusOk. The factorisation does not test the last column of a square matrix: look at
+ *  R's last diagonal element where that may vanish.
+ *
+ *  There is an example at @ref QRDecomp.
+ *
+ *  @{
  */
 #ifndef QORM_QRBACKSUBST_H
 #define QORM_QRBACKSUBST_H
@@ -60,7 +91,7 @@ QORM_API qorStatus qormQRBackSubst_mv_64f_P(const double* const* ppSrc1, int32_t
                                             int32_t dstShift, int32_t width, int32_t height);
 /** @} */
 
-/** @name One matrix with `count` vectors
+/** @name One matrix with an array of vectors
  *  In `_L` forms the matrix is in the layout without suffix, the vectors are in lists.
  *  Checks, in this order: null pointer, count, sizes, strides, shifts (`_P`, `_L`), size match.
  *  @{ */
@@ -101,7 +132,7 @@ QORM_API qorStatus qormQRBackSubst_mva_64f_L(const double* pSrc1, int32_t src1St
                                              int32_t height, int32_t count);
 /** @} */
 
-/** @name `count` matrices, each with a vector of its own
+/** @name An array of matrices, each with a vector of its own
  *  Checks, in this order: null pointer, count, sizes, strides, shifts (`_P`, `_L`), size match.
  *  @{ */
 QORM_API qorStatus qormQRBackSubst_mava_32f(const float* pSrc1, int32_t src1Stride0,
@@ -142,6 +173,8 @@ QORM_API qorStatus qormQRBackSubst_mava_64f_L(const double* const* ppSrc1, int32
                                               double* const* ppDst, int32_t dstShift,
                                               int32_t dstStride2, int32_t width, int32_t height,
                                               int32_t count);
+/** @} */
+
 /** @} */
 
 #ifdef __cplusplus

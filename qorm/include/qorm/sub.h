@@ -1,24 +1,57 @@
-/** @file sub.h
+/** @defgroup Sub Sub: differences
  *  Differences, element by element: of matrices, of vectors, and of a vector and a constant.
  *
- *  Shapes. Of matrices, `width` and `height` are those of the destination. An operand used as
- *  stored (`m`, `ma`) has the same; an operand used transposed (`t`, `ta`) lies in memory with
- *  `width` rows and `height` columns. Of vectors, all have `len` elements. In array forms the
- *  destination is an array of `count` objects and a single operand or constant serves every object.
+ *  ## Shapes
  *
- *  Arithmetic. One IEEE subtraction per element, in the element type; the bits do not depend on the
- *  path, the layout or the threads. No status but that of a failed check is ever returned.
+ *  | Shapes                      | Formula        | Shapes | Formula               |
+ *  |-----------------------------|----------------|--------|-----------------------|
+ *  | `mm` `tm` `mt` `tt`         | dst = A - B    | `vv`   | dst = x - y           |
+ *  | `mam` `tam` `mat` `tat`     | dstₙ = Aₙ - B  | `vav`  | dstₙ = xₙ - y         |
+ *  | `mma` `tma` `mta` `tta`     | dstₙ = A - Bₙ  | `vva`  | dstₙ = x - yₙ         |
+ *  | `mama` `tama` `mata` `tata` | dstₙ = Aₙ - Bₙ | `vava` | dstₙ = xₙ - yₙ        |
+ *  |                             |                | `vc`   | dst(i) = x(i) - val   |
+ *  |                             |                | `cv`   | dst(i) = val - x(i)   |
+ *  |                             |                | `vac`  | dstₙ(i) = xₙ(i) - val |
+ *  |                             |                | `cva`  | dstₙ(i) = val - xₙ(i) |
  *
- *  In place. The destination may coincide with an operand used as stored of the same shape and
- *  strides. A destination that overlaps a transposed operand, or a single operand of an array form,
- *  is not defined. Other overlaps are defined only for `vv`, `vc` and `cv` without suffix where
- *  every stride is the element size (`vv` not at lengths 3 to 6): elements are done one by one, i
- *  ascending.
+ *  Element (i,j) of the destination takes A(i,j) where the letter is `m` and A(j,i) where it is
+ *  `t`, and B likewise. A and x are `pSrc1`, or `pSrc` beside a constant; B and y are `pSrc2`. **In
+ *  `cv` and `cva` the source stands before the constant** among the arguments, as in `vc` and
+ *  `vac`. `width` and `height` are those of the destination: an operand read transposed lies in
+ *  memory with `width` rows and `height` columns. All vectors have `len` elements. Array forms
+ *  exist in all three layouts, others by strides and in `_P`.
  *
- *  Threads. Whether a call of `cva` spreads depends on `count` alone, not on `len`;
- *  #qormSub_vva_64f_P never does.
+ *  ## Arithmetic
  *
- *  Layouts, units and statuses: qorm/types.h.
+ *  One IEEE subtraction per element; no other bits are possible on any path.
+ *
+ *  ## In place
+ *
+ *  The destination may coincide with an operand read as stored. A destination that overlaps a
+ *  transposed operand is not defined. Other overlaps are defined only for `vv`, `vc` and `cv` by
+ *  strides where every `stride2` is the element size, `vv` not at lengths 3 to 6: elements are done
+ *  one by one, i ascending.
+ *
+ *  ## Cost
+ *
+ *  One subtraction per element: the time is that of the memory that is touched. A call spreads over
+ *  threads where its work W reaches
+ *
+ *  | Shapes                       | W              | strides              | `_P`  | `_L`          |
+ *  |------------------------------|----------------|----------------------|-------|---------------|
+ *  | `mam` … `tat`, `mma` … `tta` | w·h·(2c + 1)   | 36864, general 18432 | 9216  | 18432         |
+ *  | `mama` … `tata`              | 3w·h·c         | 36864, general 18432 | 9216  | 18432         |
+ *  | `vav` `vva` `vac`            | `len`·(2c + 1) | 20001                | 20001 | 40001 / 20001 |
+ *  | `cva`                        | 2c + 1         | 20001                | 20001 | 40001 / 20001 |
+ *  | `vava`                       | 3·`len`·c      | 20001                | 20001 | 40001 / 20001 |
+ *
+ *  `len` plays no part in the work of `cva`, and #qormSub_vva_64f_P never spreads.
+ *
+ *  ## Statuses
+ *
+ *  None but that of a failed check is ever returned; NaN and infinity take their course.
+ *
+ *  @{
  */
 #ifndef QORM_SUB_H
 #define QORM_SUB_H
@@ -29,7 +62,7 @@
 extern "C" {
 #endif
 
-/** @name Difference of two matrices: dst(i,j) = A(i,j) - B(i,j)
+/** @name Difference of two matrices: dst = A - B
  *  Checks, in this order: null pointer, size, strides (`_P`: shifts).
  *  @{ */
 QORM_API qorStatus qormSub_mm_32f(const float* pSrc1, int32_t src1Stride1, int32_t src1Stride2,
@@ -98,7 +131,7 @@ QORM_API qorStatus qormSub_tt_64f_P(const double* const* ppSrc1, int32_t src1Shi
                                     int32_t height);
 /** @} */
 
-/** @name Each matrix of an array less one matrix: dst_n(i,j) = A_n(i,j) - B(i,j)
+/** @name Each matrix of an array less one matrix: dstₙ = Aₙ - B
  *  Checks, in this order: null pointer, count, size, strides, shifts (`_P`, `_L`).
  *  The forms of `mam` without suffix alone test the strides before the size.
  *  @{ */
@@ -224,7 +257,7 @@ QORM_API qorStatus qormSub_tat_64f_L(const double* const* ppSrc1, int32_t src1Sh
                                      int32_t width, int32_t height, int32_t count);
 /** @} */
 
-/** @name One matrix less each matrix of an array: dst_n(i,j) = A(i,j) - B_n(i,j)
+/** @name One matrix less each matrix of an array: dstₙ = A - Bₙ
  *  Checks, in this order: null pointer, count, size, strides, shifts (`_P`, `_L`).
  *  The forms of `mma` without suffix alone test the strides before the size.
  *  @{ */
@@ -350,7 +383,7 @@ QORM_API qorStatus qormSub_tta_64f_L(const double* pSrc1, int32_t src1Stride1, i
                                      int32_t width, int32_t height, int32_t count);
 /** @} */
 
-/** @name Difference of two arrays, object by object: dst_n(i,j) = A_n(i,j) - B_n(i,j)
+/** @name Difference of two arrays, object by object: dstₙ = Aₙ - Bₙ
  *  Checks, in this order: null pointer, count, size, strides, shifts (`_P`, `_L`).
  *  @{ */
 QORM_API qorStatus qormSub_mama_32f(const float* pSrc1, int32_t src1Stride0, int32_t src1Stride1,
@@ -531,7 +564,7 @@ QORM_API qorStatus qormSub_cv_64f_P(const double* const* ppSrc, int32_t srcShift
                                     double* const* ppDst, int32_t dstShift, int32_t len);
 /** @} */
 
-/** @name Each vector of an array less one vector: dst_n(i) = x_n(i) - y(i)
+/** @name Each vector of an array less one vector: dstₙ(i) = xₙ(i) - y(i)
  *  Checks, in this order: null pointer, size, strides, count; shifts come behind the count in `_P`
  *  and before it in `_L`.
  *  @{ */
@@ -561,7 +594,7 @@ QORM_API qorStatus qormSub_vav_64f_L(const double* const* ppSrc1, int32_t src1Sh
                                      int32_t len, int32_t count);
 /** @} */
 
-/** @name One vector less each vector of an array: dst_n(i) = x(i) - y_n(i)
+/** @name One vector less each vector of an array: dstₙ(i) = x(i) - yₙ(i)
  *  Checks, in this order: null pointer, count, size, strides, shifts (`_P`, `_L`).
  *  @{ */
 QORM_API qorStatus qormSub_vva_32f(const float* pSrc1, int32_t src1Stride2, const float* pSrc2,
@@ -590,7 +623,7 @@ QORM_API qorStatus qormSub_vva_64f_L(const double* pSrc1, int32_t src1Stride2,
                                      int32_t dstStride2, int32_t len, int32_t count);
 /** @} */
 
-/** @name Each vector of an array less a constant: dst_n(i) = x_n(i) - val
+/** @name Each vector of an array less a constant: dstₙ(i) = xₙ(i) - val
  *  Checks, in this order: null pointer, count, size, strides, shifts (`_P`, `_L`).
  *  @{ */
 QORM_API qorStatus qormSub_vac_32f(const float* pSrc, int32_t srcStride0, int32_t srcStride2,
@@ -617,7 +650,7 @@ QORM_API qorStatus qormSub_vac_64f_L(const double* const* ppSrc, int32_t srcShif
                                      int32_t count);
 /** @} */
 
-/** @name A constant less each vector of an array: dst_n(i) = val - x_n(i)
+/** @name A constant less each vector of an array: dstₙ(i) = val - xₙ(i)
  *  Among the arguments the vectors stand before the constant.
  *  Checks, in this order: null pointer, count, size, strides, shifts (`_P`, `_L`).
  *  @{ */
@@ -645,7 +678,7 @@ QORM_API qorStatus qormSub_cva_64f_L(const double* const* ppSrc, int32_t srcShif
                                      int32_t count);
 /** @} */
 
-/** @name Difference of two arrays of vectors, object by object: dst_n(i) = x_n(i) - y_n(i)
+/** @name Difference of two arrays of vectors, object by object: dstₙ(i) = xₙ(i) - yₙ(i)
  *  Checks, in this order: null pointer, count, size, strides, shifts (`_P`, `_L`).
  *  @{ */
 QORM_API qorStatus qormSub_vava_32f(const float* pSrc1, int32_t src1Stride0, int32_t src1Stride2,
@@ -676,6 +709,8 @@ QORM_API qorStatus qormSub_vava_64f_L(const double* const* ppSrc1, int32_t src1S
                                       int32_t src2Shift, int32_t src2Stride2, double* const* ppDst,
                                       int32_t dstShift, int32_t dstStride2, int32_t len,
                                       int32_t count);
+/** @} */
+
 /** @} */
 
 #ifdef __cplusplus

@@ -1,5 +1,7 @@
-/** @file version.h
+/** @defgroup Version Version
  *  Which build of the library this is.
+ *
+ *  @{
  */
 #ifndef QORM_VERSION_H
 #define QORM_VERSION_H
@@ -24,6 +26,8 @@ typedef struct qorLibraryVersion {
 
 /** The one version record of the library; the same address at every call. It is not to be freed. */
 QORM_API const qorLibraryVersion* qormGetLibVersion(void);
+
+/** @} */
 
 #ifdef __cplusplus
 }
