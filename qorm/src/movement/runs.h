@@ -27,13 +27,30 @@ template <class T>
     storeRun(to, loadRun(from, static_cast<int>(elements)), static_cast<int>(elements));
 }
 
-template <class T>
+// Moves of constant length need no masks, which are slow to store by.
+template <std::ptrdiff_t elements, class T>
+[[gnu::always_inline]] inline void moveRun(const T* from, T* to, Fixed<elements>) {
+    std::memcpy(to, from, elements * sizeof(T));
+}
+
+template <class T, class Rows, class Columns>
 [[gnu::always_inline]] inline void moveRows(const StridedMatrix<const T, true>& from,
-                                            const StridedMatrix<T, true>& to, const Extent& result,
-                                            bool adjacentRows) {
-    if (adjacentRows) return moveRun(from.base, to.base, result.rows * result.columns);
-    for (std::ptrdiff_t i = 0; i < result.rows; ++i) {
-        moveRun(from(i, 0).address(), to(i, 0).address(), result.columns);
+                                            const StridedMatrix<T, true>& to, Rows rows,
+                                            Columns columns, bool adjacentRows) {
+    if (adjacentRows) return moveRun(from.base, to.base, area(rows, columns));
+    for (std::ptrdiff_t i = 0; i < rows; ++i) {
+        moveRun(from(i, 0).address(), to(i, 0).address(), columns);
+    }
+}
+
+// work(rows, columns) with constants for vectors of 3 to 6 elements and such squares.
+template <class Src, class Work>
+void withMovedExtent(const Extent& result, const Work& work) {
+    if constexpr (holdsVectors<Src>) {
+        withStaticSize(result.columns, [&](auto columns) { work(Fixed<1>(), columns); });
+    } else {
+        withStaticSquare(result.columns, result.rows,
+                         [&](auto columns, auto rows) { work(rows, columns); });
     }
 }
 
@@ -184,7 +201,10 @@ void moveRegularRuns(const Src& src, const Dst& dst, const Extent& result, std::
     const auto to = [&](std::ptrdiff_t n) { return dst.object(n, result.columns); };
     if constexpr (reading == Reading::asStored) {
         if (packed) return moveRun(from(0).base, to(0).base, elements * count);
-        for (std::ptrdiff_t n = 0; n < count; ++n) moveRows(from(n), to(n), result, adjacentRows);
+        withMovedExtent<Src>(result, [&](auto rows, auto columns) {
+            for (std::ptrdiff_t n = 0; n < count; ++n)
+                moveRows(from(n), to(n), rows, columns, adjacentRows);
+        });
     } else {
         withTransposedSize(result, [&](auto size) {
             std::ptrdiff_t n = 0;
@@ -216,24 +236,29 @@ void moveObjectRuns(const Src& src, const Dst& dst, const Extent& result, std::p
     const auto writes = spansOf(dst, result.rows, result.columns);
     const bool adjacentRows =
         src.hasAdjacentRows(stored.columns) && dst.hasAdjacentRows(result.columns);
-    const auto small = permutedTransposeFor<typename Dst::Element>(result, count);
-    const auto move = [&](auto size) {
+    const auto moveAll = [&](const auto& move) {
         for (std::ptrdiff_t n = 0; n < count; ++n) {
-            const auto from = src.object(n, stored.columns);
             const auto to = dst.object(n, result.columns);
-            if (overlap(reads(n), writes(n))) {
+            if (overlap(reads(n), writes(n)))
                 moveObjectInOrder(objectAsRead<reading>(src, n, result), to, result, false);
-            } else if constexpr (reading == Reading::asStored) {
-                moveRows(from, to, result, adjacentRows);
-            } else {
-                transposeRows(from, to, result, adjacentRows, size, small);
-            }
+            else
+                move(src.object(n, stored.columns), to);
         }
     };
-    if constexpr (reading == Reading::asStored)
-        move(std::ptrdiff_t{0});
-    else
-        withTransposedSize(result, move);
+    if constexpr (reading == Reading::asStored) {
+        withMovedExtent<Src>(result, [&](auto rows, auto columns) {
+            moveAll([&](const auto& from, const auto& to) {
+                moveRows(from, to, rows, columns, adjacentRows);
+            });
+        });
+    } else {
+        const auto small = permutedTransposeFor<typename Dst::Element>(result, count);
+        withTransposedSize(result, [&](auto size) {
+            moveAll([&](const auto& from, const auto& to) {
+                transposeRows(from, to, result, adjacentRows, size, small);
+            });
+        });
+    }
 }
 
 } // namespace qorm::movement
