@@ -49,8 +49,8 @@
  *
  *  So **scale your data to about 1**: a 3x3 matrix of `64f` with a pivot of 2⁻³⁰ fails in `_P` and
  *  passes in other layouts. Where T is 0, the pivot of a singular matrix is rounding noise, which
- *  passes or fails by its sign, and the reciprocal root of a denormal pivot may be infinite in
- *  `32f`.
+ *  passes or fails by its sign, and the reciprocal root of a denormal pivot may be -∞ in `32f`.
+ *  An infinite pivot passes; its reciprocal root is stored as NaN in `32f`, as 0 in `64f`.
  *
  *  ## Accuracy
  *

@@ -33,7 +33,8 @@
  *  ascending, in each its rows from the top, in each row its elements from left to right, each one
  *  loaded and stored before the next. **An element that a move has overwritten is read with its new
  *  value** by the moves behind it: gaps between elements, rows and objects can be closed in place,
- *  but not opened. Where elements of the destination coincide, the last one moved stays.
+ *  but not opened, nor closed between the positions of arrays in pointer layout, since objects go
+ *  outermost. Where elements of the destination coincide, the last one moved stays.
  *
  *  ## Cost
  *

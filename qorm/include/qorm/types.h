@@ -98,9 +98,9 @@
  *  ## Bits
  *
  *  The results of an object do not depend on the layout, the strides, the count, the thread count
- *  or the processor, unless a page says otherwise. Nor is any arithmetic done but in the element
- *  type, each operation rounded: there is no wider accumulator and no fused multiply-add. ε stands
- *  for 2⁻²³ in `32f` and 2⁻⁵² in `64f`.
+ *  or the processor, unless a page says otherwise; but sign and payload of a computed NaN may. Nor
+ *  is any arithmetic done but in the element type, each operation rounded: there is no wider
+ *  accumulator and no fused multiply-add. ε stands for 2⁻²³ in `32f` and 2⁻⁵² in `64f`.
  *
  *  ## In place
  *

@@ -98,10 +98,12 @@ void substituteBySums(const Factors& lu, const B& b, X& x, N n) {
     }
 }
 
-// Factors with their rows in order, and the reciprocals of the pivots at fixed sizes.
+// Factors with their rows in order, which is kept if they are those of one matrix, and the reciprocals
+// of the pivots at fixed sizes.
 template <class W, class N>
 struct LuFactors : Loaded<W, N> {
     LoadedVector<W, N> reciprocals;
+    std::int32_t order[largestSize<N>];
 
     using Loaded<W, N>::Loaded;
 
@@ -124,6 +126,7 @@ LuFactors<T, N> loadFactors(const Matrix& matrix, Run<const std::int32_t> index,
     const OrderedRows rows{matrix, index};
     LuFactors<T, N> factors(n);
     for (std::ptrdiff_t i = 0; i < n; ++i) {
+        factors.order[i] = index(i);
         for (std::ptrdiff_t j = 0; j < n; ++j) factors.matrix()(i, j) = rows(i, j);
     }
     factors.invertPivots(n);
@@ -180,7 +183,7 @@ template <class V, class Matrix, class B, class X, class N, class Shared>
                 substituteLu<V>(loadFactors<V>(matrix.object(first, n), index, n), ordered,
                                 solution, n);
             else if constexpr (hasOwnPath<N>)
-                substituteLu<V>(shared, ordered, solution, n);
+                substituteLu<V>(shared, OrderedElements{right, Run{shared.order}}, solution, n);
             else
                 substituteLu<V>(OrderedRows{matrix.object(0, n), index}, ordered, solution, n);
         } else {

@@ -179,11 +179,15 @@ Bytes spanOfPositions(const Matrix& matrix, std::ptrdiff_t rows, std::ptrdiff_t 
     return all;
 }
 
-// Whether no run of elements of one matrix overlaps one of the other.
+inline constexpr std::ptrdiff_t anyNumber = std::numeric_limits<std::ptrdiff_t>::max();
+
+// Whether no run of elements of one matrix overlaps one of the other. False, too, where more than so
+// many pairs of positions would have to be compared.
 template <class Src, class Dst>
 bool positionsAreApart(const Src& src, std::ptrdiff_t srcRows, std::ptrdiff_t srcColumns,
                        std::ptrdiff_t srcCount, const Dst& dst, std::ptrdiff_t dstRows,
-                       std::ptrdiff_t dstColumns, std::ptrdiff_t dstCount) {
+                       std::ptrdiff_t dstColumns, std::ptrdiff_t dstCount,
+                       std::ptrdiff_t mostPairs = anyNumber) {
     constexpr std::ptrdiff_t elementSize{sizeof(*src(0, 0).address())};
     const std::ptrdiff_t readBytes = srcCount * elementSize;
     const std::ptrdiff_t writtenBytes = dstCount * elementSize;
@@ -191,6 +195,7 @@ bool positionsAreApart(const Src& src, std::ptrdiff_t srcRows, std::ptrdiff_t sr
                  spanOfPositions(dst, dstRows, dstColumns, writtenBytes))) {
         return true;
     }
+    if (srcRows * srcColumns * dstRows * dstColumns > mostPairs) return false;
     for (std::ptrdiff_t position = 0; position < dstRows * dstColumns; ++position) {
         const Bytes written = bytesAt(dst, position, dstColumns, writtenBytes);
         for (std::ptrdiff_t other = 0; other < srcRows * srcColumns; ++other) {
@@ -216,10 +221,12 @@ bool shareAscendingPositions(const Src& src, const Dst& dst, std::ptrdiff_t rows
 }
 
 // Whether writing all objects of one position of `dst` leaves every other position of `src` alone.
-// `srcCount` is 1 for a single matrix.
+// `srcCount` is 1 for a single matrix. False, too, where more than so many pairs would have to be
+// compared.
 template <class Src, class Dst>
 bool positionsAreIndependent(const Src& src, std::ptrdiff_t srcCount, const Dst& dst,
-                             std::ptrdiff_t width, std::ptrdiff_t height, std::ptrdiff_t count) {
+                             std::ptrdiff_t width, std::ptrdiff_t height, std::ptrdiff_t count,
+                             std::ptrdiff_t mostPairs = anyNumber) {
     constexpr std::ptrdiff_t elementSize{sizeof(*src(0, 0).address())};
     const std::ptrdiff_t readBytes = srcCount * elementSize;
     const std::ptrdiff_t writtenBytes = count * elementSize;
@@ -231,6 +238,7 @@ bool positionsAreIndependent(const Src& src, std::ptrdiff_t srcCount, const Dst&
     if (srcCount == count && shareAscendingPositions(src, dst, height, width, writtenBytes)) {
         return true;
     }
+    if (width * height * width * height > mostPairs) return false;
     for (std::ptrdiff_t position = 0; position < width * height; ++position) {
         const Bytes written = bytesAt(dst, position, width, writtenBytes);
         for (std::ptrdiff_t other = 0; other < width * height; ++other) {

@@ -2,6 +2,7 @@
 // the live ones is touched.
 #pragma once
 
+#include "frame/elements.h"
 #include "frame/lanes.h"
 
 #include <cstring>
@@ -108,15 +109,13 @@ void storeRun(T* to, const Pack<T>& run, int live) {
 template <Scalar T>
 Pack<T> loadRun(const T* from, int live) {
     Pack<T> run(T(0));
-    for (int lane = 0; lane < live; ++lane) {
-        run.lanes[0][lane] = from[lane];
-    }
+    for (int lane = 0; lane < live; ++lane) run.lanes[0][lane] = Element(from + lane);
     return run;
 }
 
 template <Scalar T>
 void storeRun(T* to, const Pack<T>& run, int live) {
-    for (int lane = 0; lane < live; ++lane) to[lane] = run.lanes[0][lane];
+    for (int lane = 0; lane < live; ++lane) Element(to + lane) = run.lanes[0][lane];
 }
 
 #endif

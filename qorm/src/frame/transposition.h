@@ -123,7 +123,9 @@ struct OddTransposition {
     }();
 
     static constexpr int rotationOf(int lane) { return lane * inverseOfLanes % elements; }
-    static constexpr int rotated(int which, int by) { return (which + by + elements) % elements; }
+    static constexpr int rotated(int which, int by) {
+        return ((which + by) % elements + elements) % elements;
+    }
 
     // The register that holds element p after the rotations, and the lane that object l has there.
     static constexpr int registerOf(int p) { return p * inverseOfLanes % elements; }

@@ -1,6 +1,7 @@
 // Vectors of any power of two of elements. Where one is wider than a register, compilers split it.
 #pragma once
 
+#include "frame/elements.h"
 #include "frame/lanes.h"
 
 #include <bit>
@@ -46,7 +47,7 @@ template <Scalar T, int lanes, int live>
         else
             vector = _mm512_maskz_loadu_pd(mask, from);
 #else
-        for (int lane = 0; lane < live; ++lane) vector[lane] = from[lane];
+        for (int lane = 0; lane < live; ++lane) vector[lane] = Element(from + lane);
 #endif
     }
     return vector;
@@ -72,7 +73,7 @@ template <Scalar T, int lanes, unsigned mask>
             _mm512_mask_storeu_pd(to, mask, vector);
 #else
         for (int lane = 0; lane < lanes; ++lane) {
-            if ((mask >> lane & 1) != 0) to[lane] = vector[lane];
+            if ((mask >> lane & 1) != 0) Element(to + lane) = vector[lane];
         }
 #endif
     }

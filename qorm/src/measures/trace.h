@@ -64,7 +64,8 @@ qorStatus traces(const Src& src, Size size, const Plain<T>& dst, Count countOf =
         std::ptrdiff_t done = 0;
         if constexpr (Src::layout == Layout::P && Src::holdsArray) {
             constexpr std::ptrdiff_t lanes = laneCount<Pack<T>>;
-            if (count >= lanes && src.hasObjectsSideBySide() &&
+            // To find where the objects lie is to go through all of the table.
+            if (count >= std::max<std::ptrdiff_t>(lanes, n) && src.hasObjectsSideBySide() &&
                 areSurelyApart(spansOf(src, n, n), spansOf(dst), count)) {
                 tracesOfBlocks<Pack<T>>(src, dst, 0, count / lanes, n);
                 done = count / lanes * lanes;

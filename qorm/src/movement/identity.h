@@ -36,7 +36,8 @@ void loadIdentity(const Matrix& matrix, const Extent& extent) {
 template <class Dst>
 bool loadIdentityByPositions(const Dst& dst, const Extent& extent, std::ptrdiff_t count) {
     const auto matrix = dst.object(0, extent.columns);
-    if (!positionsAreIndependent(matrix, count, matrix, extent.columns, extent.rows, count)) {
+    if (!positionsAreIndependent(matrix, count, matrix, extent.columns, extent.rows, count,
+                                 pairsWorthComparing(extent, count))) {
         return false;
     }
     for (std::ptrdiff_t i = 0; i < extent.rows; ++i) {

@@ -13,6 +13,11 @@ enum class Reading { asStored, transposed };
 // one after the other, each in all objects.
 enum class Order { resultRows, sourceRows, positions };
 
+// How many pairs of positions are compared sooner than elements of the wrong order are moved.
+inline std::ptrdiff_t pairsWorthComparing(const Extent& extent, std::ptrdiff_t count) {
+    return 2 * extent.rows * extent.columns * count;
+}
+
 // A float of the processor could lose a signalling NaN; these are only bytes.
 template <class From, class To>
 [[gnu::always_inline]] inline void moveElement(const From& from, const To& to) {

@@ -13,9 +13,10 @@ template <Reading reading, class Src, class Dst>
 bool movePositions(const Src& src, const Dst& dst, const Extent& result, std::ptrdiff_t count) {
     const auto from = objectAsRead<reading>(src, 0, result);
     const auto to = dst.object(0, result.columns);
-    if (!positionsAreIndependent(to, count, to, result.columns, result.rows, count) ||
+    const std::ptrdiff_t mostPairs = pairsWorthComparing(result, count);
+    if (!positionsAreIndependent(to, count, to, result.columns, result.rows, count, mostPairs) ||
         !positionsAreApart(from, result.rows, result.columns, count, to, result.rows,
-                           result.columns, count)) {
+                           result.columns, count, mostPairs)) {
         return false;
     }
     for (std::ptrdiff_t i = 0; i < result.rows; ++i) {
@@ -93,7 +94,9 @@ bool moveInBlocks(const Src& src, const Dst& dst, const Extent& result, std::ptr
         reading == Reading::transposed ? Extent{result.columns, result.rows} : result;
     using V = Pack<typename Dst::Element>;
     constexpr int lanes = laneCount<V>;
-    if (!hasDistinctElements(dst, result.rows, result.columns, lanes)) return false;
+    // A block of few objects takes longer than they do one by one.
+    if (2 * count < lanes || !hasDistinctElements(dst, result.rows, result.columns, lanes))
+        return false;
     const auto guard = readAheadOf(Sharing::none, src, stored, dst, result, count, lanes);
     const bool apart = areSurelyApart(spansOf(src, stored.rows, stored.columns),
                                       spansOf(dst, result.rows, result.columns), count);

@@ -63,11 +63,10 @@ qorStatus productsByAlignment(const A& a, const B& b, const Plain<float>& dst, s
 template <Order order, class A, class B, class T>
 qorStatus productOfTwo(const A& a, const B& b, const Plain<T>& dst, std::ptrdiff_t len) {
     dst.object(0)(0) = withStaticSize(len, [&](auto n) {
-        constexpr bool isRun = A::hasContiguousRows && B::hasContiguousRows;
-        if constexpr (isRun && !isFixed<decltype(n)>)
-            return sumOfProducts<T>(a.base, b.base, len);
-        else
-            return productOfOne<order>(a, b, 0, n);
+        if constexpr (A::hasContiguousRows && B::hasContiguousRows) {
+            if constexpr (!isFixed<decltype(n)>) return sumOfProducts<T>(a.base, b.base, len);
+        }
+        return productOfOne<order>(a, b, 0, n);
     });
     return qorStatusOk;
 }

@@ -36,10 +36,10 @@ qorStatus norms(const A& a, const Plain<T>& dst, Size size, Count count = Count(
         return productsInLanes<Order::chain>(a, Itself(), dst, len, count.value, root);
     } else {
         dst.object(0)(0) = root(withStaticSize(len, [&](auto n) {
-            if constexpr (A::hasContiguousRows && !isFixed<decltype(n)>)
-                return sumOfProducts<T>(a.base, a.base, len);
-            else
-                return productOfOne<Order::chain>(a, Itself(), 0, n);
+            if constexpr (A::hasContiguousRows) {
+                if constexpr (!isFixed<decltype(n)>) return sumOfProducts<T>(a.base, a.base, len);
+            }
+            return productOfOne<Order::chain>(a, Itself(), 0, n);
         }));
         return qorStatusOk;
     }
