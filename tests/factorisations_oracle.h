@@ -9,7 +9,10 @@
 #include <cmath>
 #include <limits>
 #include <vector>
+
+#if defined(__SSE__)
 #include <xmmintrin.h>
+#endif
 
 namespace factorisations_oracle {
 
@@ -185,7 +188,11 @@ inline double reciprocalRoot(double s) {
     return 1 / std::sqrt(s);
 }
 inline float reciprocalRoot(float s) {
+#if defined(__SSE__)
     const float r = _mm_cvtss_f32(_mm_rsqrt_ss(_mm_set_ss(s)));
+#else
+    const float r = 1 / std::sqrt(s);
+#endif
     return (s * r * r - 3) * r * -0.5F;
 }
 

@@ -173,7 +173,7 @@ TEST_P(Factorisations, ofAllInputsInAllPlacements) {
                 const int count = counts[random() % std::size(counts)];
                 test({.size = size,
                       .count = isLarge ? std::min(count, 3) : count,
-                      .placement = placements[random() % placements.size()],
+                      .placement = placements[random.below(placements.size())],
                       .special = input});
             }
         }

@@ -87,7 +87,7 @@ TEST_P(Measures, ofAllInputsInAllPlacements) {
             for (int repetition = 0; repetition < repetitions; ++repetition) {
                 test({.size = n,
                       .count = std::min(counts[random() % std::size(counts)], most),
-                      .placement = placements[random() % placements.size()],
+                      .placement = placements[random.below(placements.size())],
                       .special = input});
             }
         }

@@ -110,7 +110,7 @@ protected:
                   const std::function<void(Call&)>& rearrange = asPlaced) {
         static constexpr int counts[] = {1, 2, 3, 7, 8, 9, 15, 16, 17, 33};
         for (int repetition = 0; repetition < 2; ++repetition) {
-            Making* const making = makings[choice() % makings.size()];
+            Making* const making = makings[choice.below(makings.size())];
             test({.size = size,
                   .count = counts[choice() % std::size(counts)],
                   .placement = placement,

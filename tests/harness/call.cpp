@@ -30,14 +30,15 @@ void setStrides(Operand& operand, const Placement& placement, bool withGaps, int
                                        ? placement.resultOrder.value_or(placement.order)
                                        : placement.order;
     const std::array<Axis, 3> innermostFirst =
-        order == Placement::byRows      ? std::array{elements, rows, objects}
-        : order == Placement::byColumns ? std::array{rows, elements, objects}
-                                        : std::array{objects, elements, rows};
-    std::int32_t inner =
+        order == Placement::byRows       ? std::array{elements, rows, objects}
+        : order == Placement::byColumns  ? std::array{rows, elements, objects}
+        : order == Placement::byPosition ? std::array{objects, elements, rows}
+                                         : std::array{objects, rows, elements};
+    std::int64_t inner =
         placement.sharing == Placement::interleavedElements ? sharers * size : size;
     for (const Axis& axis : innermostFirst) {
-        axis.stride = inner + axis.gap;
-        inner = axis.stride * axis.extent;
+        axis.stride = static_cast<std::int32_t>(inner + axis.gap);
+        inner = std::int64_t{axis.stride} * axis.extent;
     }
 }
 
@@ -104,7 +105,7 @@ void setTable(Operand& operand, bool scattered, Random& random) {
     }
     if (scattered) {
         for (std::size_t k = entries.size(); k > 1; --k) {
-            std::swap(entries[k - 1], entries[random() % k]);
+            std::swap(entries[k - 1], entries[random.below(k)]);
         }
     }
     for (char*& entry : entries) entry -= operand.shift;
@@ -339,6 +340,17 @@ std::string Call::describe() const {
         const Placement::Step& step = placement_.behindBy;
         text << ", behind " << placement_.destinationOn << " by " << step.objects << " objects, "
              << step.rows << " rows, " << step.elements << " elements";
+    }
+    return text.str();
+}
+
+std::string Call::whereabouts() const {
+    std::ostringstream text;
+    for (const Operand& operand : operands_) {
+        text << operand.parameter.name << " at "
+             << reinterpret_cast<std::uintptr_t>(operand.address(0, 0, 0)) % 64
+             << " mod 64, strides " << operand.stride0 << ", " << operand.stride1 << ", "
+             << operand.stride2 << ", shift " << operand.shift << "; ";
     }
     return text.str();
 }

@@ -11,7 +11,9 @@ namespace harness {
 
 // How operands lie. Gaps, shifts and misalignment are in elements, elements and bytes.
 struct Placement {
-    enum Order { byRows, byColumns, byPosition }; // byPosition: objects side by side
+    // From the nearest to the farthest: elements, rows, objects; rows, elements, objects; and with
+    // objects side by side: objects, elements, rows; objects, rows, elements.
+    enum Order { byRows, byColumns, byPosition, byPositionInColumns };
     enum Sharing { apart, interleavedElements, interleavedObjects };
     struct Step {
         int objects = 0;
@@ -131,6 +133,8 @@ public:
     enum class Nans { alike, asBits };
     std::string difference(Nans nans = Nans::alike) const;
     std::string describe() const;
+    // Addresses and strides of all operands in memory.
+    std::string whereabouts() const;
 
 private:
     void place(const Placement& placement);

@@ -304,6 +304,37 @@ Sizes productSizes(const Function& function, int rows, int inner, int columns, i
     return sizes;
 }
 
+std::vector<Function> coresOf(const Function& function, bool contiguous) {
+    if (function.isDirect()) return {};
+    const bool hasOneCore = function.isOneOf("FrobNorm", "m");
+    Function core = function;
+    core.name = "own" + function.name;
+    const auto leaveOut = [&](const auto& what) { std::erase_if(core.arguments, what); };
+    if (function.layout != Layout::P && !hasOneCore) {
+        if (contiguous)
+            leaveOut([](const Argument& a) { return a.meaning == Argument::stride2; });
+        else
+            core.name += function.layout == Layout::S ? "_S2" : "S2";
+    }
+    if (function.operation == "Gaxpy") {
+        leaveOut([](const Argument& a) { return a.name.ends_with("Len"); });
+        std::stable_partition(core.arguments.begin(), core.arguments.end(), [](const Argument& a) {
+            return a.meaning != Argument::size && a.meaning != Argument::count;
+        });
+    }
+    if (!function.isOneOf("LUDecomp", "m")) return {core};
+    // All sizes without a path of their own share another.
+    Function common = core;
+    if (function.layout == Layout::S && contiguous) common.name += "_S";
+    common.name += "_com";
+    return {core, common};
+}
+
+Function driverOf(Function function) {
+    function.name = "ownOMP_" + function.name;
+    return function;
+}
+
 std::ostream& operator<<(std::ostream& out, const Function& function) {
     return out << function.name;
 }

@@ -86,6 +86,13 @@ Function functionOf(const std::string& name);
 std::ostream& operator<<(std::ostream& out, const Function& function);
 std::ostream& operator<<(std::ostream& out, const Sizes& sizes);
 
+// The cores that do a call's work if rows are contiguous or not; none where the entry function does
+// it. They go without the strides of what is contiguous; those of Gaxpy take the matrix's sizes
+// behind all operands, and no other.
+std::vector<Function> coresOf(const Function& function, bool contiguous);
+// The driver that shares an array's objects among threads.
+Function driverOf(Function function);
+
 // The functions that the library's own lists name, or those of them that belong to `operations` and
 // have one of the kinds of operands, or any.
 const std::vector<Function>& allFunctions();

@@ -115,7 +115,7 @@ inline Numbers withRowsShuffled(Numbers matrix, Random& r) {
 template <std::size_t size>
 Numbers sprinkled(const double (&values)[size], Numbers matrix, Random& r) {
     for (int k = integer(r, 1, 3); k > 0; --k) {
-        const std::size_t place = r() % matrix.elements.size();
+        const std::size_t place = r.below(matrix.elements.size());
         matrix.elements[place] = oneOf(values, r);
     }
     return matrix;

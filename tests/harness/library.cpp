@@ -26,7 +26,8 @@ void reportCrash(int signal) {
     throw std::runtime_error(dlerror()); // NOLINT(concurrency-mt-unsafe)
 }
 
-bool runsHere(const std::string& path) {
+bool runsHere([[maybe_unused]] const std::string& path) {
+#if defined(__x86_64__)
     if (path.find("x86-64-v3") != std::string::npos) {
         return __builtin_cpu_supports("avx2") && __builtin_cpu_supports("fma") &&
                __builtin_cpu_supports("bmi") && __builtin_cpu_supports("bmi2");
@@ -36,6 +37,7 @@ bool runsHere(const std::string& path) {
                __builtin_cpu_supports("avx512bw") && __builtin_cpu_supports("avx512vl") &&
                __builtin_cpu_supports("avx512cd");
     }
+#endif
     return true;
 }
 

@@ -9,6 +9,7 @@ namespace harness {
 union Value {
     void* pointer;
     std::int32_t number;
+    double constant; // whose bytes may be those of a float
 };
 
 class Library {

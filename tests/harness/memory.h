@@ -2,6 +2,7 @@
 // again.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <memory>
 #include <vector>
@@ -20,12 +21,15 @@ public:
         return z ^ (z >> 31);
     }
 
+    std::size_t below(std::size_t end) { return static_cast<std::size_t>((*this)() % end); }
+
 private:
     std::uint64_t state_;
 };
 
 // Bytes at one edge of a block of accessible pages, and their image: what they are expected to
-// hold after a call.
+// hold after a call. A region larger than the usual block takes memory only where it is touched; it
+// begins as zeros and is not compared as a whole.
 class Region {
 public:
     // A region of `bytes` bytes, at the front edge of the block or at its back. Around it, where
@@ -37,21 +41,23 @@ public:
     Region& operator=(const Region&) = delete;
 
     char* begin() const { return begin_; }
-    char* imageOf(const char* address) { return image_.data() + (address - low_); }
+    char* imageOf(const char* address) { return image_ + (address - low_); }
 
     // The first byte that differs from its image, or null.
     const char* firstDifference() const;
 
 private:
-    Region();
+    explicit Region(std::ptrdiff_t blockBytes);
     void use(std::ptrdiff_t bytes, bool atFront, std::uint64_t seed);
+    void useSparsely(std::ptrdiff_t bytes);
 
     char* blockBegin_;
     char* blockEnd_;
     char* begin_ = nullptr;
     char* low_ = nullptr; // [low, high) is compared
     char* high_ = nullptr;
-    std::vector<char> image_;
+    char* image_ = nullptr;
+    std::vector<char> ownImage_; // unless it lies in the block too
 };
 
 // An address that may be passed, but not read or written.

@@ -179,13 +179,15 @@ template <class V, class Matrix, class B, class X, class N, class Shared>
         if constexpr (!Matrix::holdsArray || isOneByOne) {
             const Run<const std::int32_t> index = pivots.object(first);
             const OrderedElements ordered{right, index};
-            if constexpr (Matrix::holdsArray)
+            if constexpr (Matrix::holdsArray) {
                 substituteLu<V>(loadFactors<V>(matrix.object(first, n), index, n), ordered,
                                 solution, n);
-            else if constexpr (hasOwnPath<N>)
-                substituteLu<V>(shared, OrderedElements{right, Run{shared.order}}, solution, n);
-            else
+            } else if constexpr (hasOwnPath<N>) {
+                const Run<const std::int32_t> order = {shared.order};
+                substituteLu<V>(shared, OrderedElements{right, order}, solution, n);
+            } else {
                 substituteLu<V>(OrderedRows{matrix.object(0, n), index}, ordered, solution, n);
+            }
         } else {
             LoadedVector<V, N> index;
             loadPivots(pivots, first, live, n, index.elements);
