@@ -285,8 +285,8 @@ QORM_KERNEL void multiplyBlocks(const S s, std::ptrdiff_t first, int live, std::
         else
             multiplyOne(s, object);
     };
-    // Where matrices are loaded too, a constant number of live lanes gains nothing.
-    if constexpr (decltype(s.matrix)::holdsArray) {
+    // A constant number of live lanes gains something where only vectors are loaded.
+    if constexpr (decltype(s.matrix)::holdsArray || laneCount<V> == 1) {
         for (std::ptrdiff_t block = 0; block < blocks; ++block)
             multiply(first + block * laneCount<V>, live);
     } else {
