@@ -275,8 +275,9 @@ template <Sums sums, class V, class S, class Rows, class Terms>
 template <Sums sums, class V, class S, class Rows, class Terms>
 QORM_KERNEL void multiplyBlocks(const S s, std::ptrdiff_t first, int live, std::ptrdiff_t blocks,
                                 Rows rows, Terms terms) {
+    constexpr bool isOneByOne = laneCount<V> == 1;
     const auto multiply = [&](std::ptrdiff_t object, int liveLanes) __attribute__((always_inline)) {
-        if constexpr (laneCount < V >> 1 || sums == Sums::pairs)
+        if constexpr (!isOneByOne || sums == Sums::pairs)
             multiplyLanes<sums, V>(s, object, liveLanes, rows, terms);
         else if constexpr (sums == Sums::blocks)
             multiplyOneInBlocks(s, object, true);
@@ -286,7 +287,7 @@ QORM_KERNEL void multiplyBlocks(const S s, std::ptrdiff_t first, int live, std::
             multiplyOne(s, object);
     };
     // A constant number of live lanes gains something where only vectors are loaded.
-    if constexpr (decltype(s.matrix)::holdsArray || laneCount<V> == 1) {
+    if constexpr (decltype(s.matrix)::holdsArray || isOneByOne) {
         for (std::ptrdiff_t block = 0; block < blocks; ++block)
             multiply(first + block * laneCount<V>, live);
     } else {
