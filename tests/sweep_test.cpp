@@ -57,16 +57,6 @@ std::vector<Group> groups() {
     return all;
 }
 
-// Two functions take some smaller matrices for 3x3 ones, which need tables of these.
-bool isCallable(const Function& function, const Sizes& sizes) {
-    if (!contains("qormMul_mm_32f_P qormMul_tt_64f_P", function.name)) return true;
-    int bits = 0;
-    for (const char* size : {"src1Width", "src1Height", "src2Width", "src2Height"}) {
-        bits |= sizes.at(size);
-    }
-    return bits != 3;
-}
-
 // The inverse of one element is the entry function's own work.
 bool hasTiers(const Function& function, const Sizes& sizes) {
     return !function.isDirect() &&

@@ -104,16 +104,6 @@ Sizes anySizes(const Function& function, Bytes& bytes) {
             {"count", count}};
 }
 
-// Two functions take some smaller matrices for 3x3 ones, which need tables of these.
-bool isCallable(const Function& function, const Sizes& sizes) {
-    if (!contains("qormMul_mm_32f_P qormMul_tt_64f_P", function.name)) return true;
-    int bits = 0;
-    for (const char* size : {"src1Width", "src1Height", "src2Width", "src2Height"}) {
-        bits |= sizes.at(size);
-    }
-    return bits != 3;
-}
-
 Placement anyPlacement(const Function& function, Bytes& bytes) {
     const auto sometimes = [&](int most) {
         return bytes.ConsumeBool() ? bytes.ConsumeIntegralInRange(0, most) : 0;

@@ -255,6 +255,15 @@ bool Function::isDirect() const {
     return contains("Copy Extract LoadIdentity", operation);
 }
 
+bool isCallable(const Function& function, const Sizes& sizes) {
+    if (!contains("qormMul_mm_32f_P qormMul_tt_64f_P", function.name)) return true;
+    int bits = 0;
+    for (const char* size : {"src1Width", "src1Height", "src2Width", "src2Height"}) {
+        bits |= sizes.at(size);
+    }
+    return bits != 3;
+}
+
 Function functionOf(const std::string& name) {
     static const std::regex grammar("qorm([A-Za-z0-9]+)_([mtvca]+)_(32f|64f)(_[SPL]?[SPL])?");
     std::smatch match;

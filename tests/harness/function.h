@@ -75,6 +75,9 @@ int extentOf(const std::string& name, const Sizes& sizes);
 // vector.
 Sizes productSizes(const Function& function, int rows, int inner, int columns, int count);
 
+// Two functions take some smaller matrices for 3x3 ones, which need tables of these.
+bool isCallable(const Function& function, const Sizes& sizes);
+
 // work(float()) or work(double())
 template <class Work>
 auto withType(const Function& function, const Work& work) {
