@@ -9,14 +9,12 @@
 #include "frame/overlap.h"
 #include "frame/static_size.h"
 
-#include <utility>
-
 // name, the source's kind, type, layout
 #define QORM_EIGEN_VALUES(name, kind, type, layout) \
     QORM_FUNCTION_##kind##_##layout( \
         name, qorm::eigen::formOfValues(sizeof(QORM_TYPE_##type), qorm::Layout::layout), \
-        (qorm::eigen::values<qorm::eigen::variantOfValues( \
-             qorm::Kind::kind, sizeof(QORM_TYPE_##type), qorm::Layout::layout)>), \
+        QORM_ON_OBJECTS(qorm::eigen::values<qorm::eigen::variantOfValues( \
+                            qorm::Kind::kind, sizeof(QORM_TYPE_##type), qorm::Layout::layout)>), \
         QORM_EIGEN_VALUES_ARGUMENTS, QORM_TYPE_##type, kind)
 
 #define QORM_EIGEN_VALUES_ARGUMENTS(PART, access, T, kind) \
@@ -26,8 +24,8 @@
 #define QORM_EIGEN_VECTORS(name, kind, type, layout) \
     QORM_FUNCTION_##kind##_##layout( \
         name, qorm::eigen::formOfVectors(qorm::Kind::kind, sizeof(QORM_TYPE_##type)), \
-        (qorm::eigen::vectors<qorm::eigen::variantOfVectors( \
-             qorm::Kind::kind, sizeof(QORM_TYPE_##type), qorm::Layout::layout)>), \
+        QORM_ON_OBJECTS(qorm::eigen::vectors<qorm::eigen::variantOfVectors( \
+                            qorm::Kind::kind, sizeof(QORM_TYPE_##type), qorm::Layout::layout)>), \
         QORM_EIGEN_VECTORS_ARGUMENTS, QORM_TYPE_##type, kind)
 
 #define QORM_EIGEN_VECTORS_ARGUMENTS(PART, access, T, kind) \
@@ -89,8 +87,8 @@ using LanesOf = Pack<T, 2>;
 
 // One object, exactly as the contract tells, down to the state that a failure leaves.
 template <Variant variant, class T, class Src, class Vectors>
-qorStatus solveObject(const Src& src, T* buffer, Run<T> values, const Vectors& vectors,
-                      std::ptrdiff_t n) {
+[[gnu::noinline]] qorStatus solveObject(const Src src, T* buffer, Run<T> values,
+                                        const Vectors vectors, std::ptrdiff_t n) {
     if (n == 1) return solveSize1(src, values, vectors);
     using Work = StridedMatrix<T, true>;
     const Work work = {buffer, n * std::ptrdiff_t{sizeof(T)}, sizeof(T)};
@@ -104,11 +102,10 @@ qorStatus solveObject(const Src& src, T* buffer, Run<T> values, const Vectors& v
     return outcome.singular ? qorStatusSingular : qorStatusOk;
 }
 
-// Objects first .. first + live - 1 in lanes. False, with nothing written, if one of them fails.
-template <Variant variant, class T, class N, class Src, class Vectors>
-bool solveLanes(const Src& src, const Vectors& dstVectors, const Plain<T>& dstValues,
-                std::ptrdiff_t first, int live, N n) {
-    using V = LanesOf<T>;
+// Objects first .. first + live - 1 in lanes. Nothing is written if one of them fails.
+template <Variant variant, class V, class T, class N, class Src, class Vectors>
+qorStatus solveLanes(const Src& src, const Vectors& dstVectors, const Plain<T>& dstValues,
+                     std::ptrdiff_t first, int live, N n) {
     constexpr std::ptrdiff_t capacity = largestSize<N>;
     V workBlock[capacity * capacity];
     V valueBlock[capacity];
@@ -126,20 +123,20 @@ bool solveLanes(const Src& src, const Vectors& dstVectors, const Plain<T>& dstVa
     SymmetricQl<variant, V, N, PackMatrix<V>, PackRun<V>, decltype(vectors)> ql(n, work, values,
                                                                                 vectors);
     const Outcome<V> outcome = ql.solve();
-    if (any(outcome.singular | outcome.unsettled)) return false;
+    if (any(outcome.singular | outcome.unsettled)) return qorStatusSingular;
     if constexpr (variant.vectors) storeLanes(dstVectors, first, live, n, n, vectors);
     storeLanes(dstValues, first, live, n, values);
-    return true;
+    return qorStatusOk;
 }
 
-inline RegularSpans spansOf(NoVectors, std::ptrdiff_t, std::ptrdiff_t) {
+inline Spans spansOf(NoVectors, std::ptrdiff_t, std::ptrdiff_t) {
     return {{0, 0}, 0};
 }
 
 // Lanes read objects before they write the first of them; this tells where that shows.
-template <class T, class Src, class Vectors>
 class LaneGuard {
 public:
+    template <class T, class Src, class Vectors>
     LaneGuard(const Src& src, const Scratch<T>& scratch, const Vectors& vectors,
               const Plain<T>& values, std::ptrdiff_t n)
         : reads(spansOf(src, n, n)),
@@ -154,7 +151,7 @@ public:
         }
     }
 
-    bool allows(std::ptrdiff_t first, int live) const {
+    [[gnu::noinline]] bool allows(std::ptrdiff_t first, int live) const {
         const Bytes read = spanOfAll(reads, first, live);
         const Bytes vectors = spanOfAll(vectorWrites, first, live);
         const Bytes values = spanOfAll(valueWrites, first, live);
@@ -165,9 +162,9 @@ public:
     }
 
 private:
-    decltype(spansOf(std::declval<Src>(), 0, 0)) reads;
-    decltype(spansOf(std::declval<Vectors>(), 0, 0)) vectorWrites;
-    RegularSpans valueWrites;
+    Spans reads;
+    Spans vectorWrites;
+    Spans valueWrites;
     Bytes scratchBytes;
     bool distinct = true; // elements of the vectors
     bool inPlace = false; // vectors on their own source
@@ -181,39 +178,28 @@ auto objectOf(const Vectors& vectors, std::ptrdiff_t n, std::ptrdiff_t columns) 
         return vectors.object(n, columns);
 }
 
-// Objects first to last, one after the other.
-template <Variant variant, class T, class Src, class Vectors>
-qorStatus solveObjects(const Src& src, const Scratch<T>& scratch, const Vectors& dstVectors,
-                       const Plain<T>& dstValues, std::ptrdiff_t n, std::ptrdiff_t first,
-                       std::ptrdiff_t last) {
-    for (std::ptrdiff_t k = first; k <= last; ++k) {
-        const qorStatus status = solveObject<variant>(
-            src.object(k, n), scratch.base, dstValues.object(k), objectOf(dstVectors, k, n), n);
-        if (status != qorStatusOk) return status;
-    }
-    return qorStatusOk;
-}
-
 template <Variant variant, class T, class Src, class Vectors>
 qorStatus solveArray(const Src& src, const Scratch<T>& scratch, const Vectors& dstVectors,
                      const Plain<T>& dstValues, std::ptrdiff_t n, std::ptrdiff_t count) {
+    const auto solveOne = [&](std::ptrdiff_t k) {
+        return solveObject<variant>(src.object(k, n), scratch.base, dstValues.object(k),
+                                    objectOf(dstVectors, k, n), n);
+    };
     if (count == 1 || !isLaneSize(n)) {
-        return solveObjects<variant>(src, scratch, dstVectors, dstValues, n, 0, count - 1);
+        for (std::ptrdiff_t k = 0; k < count; ++k) {
+            if (const qorStatus status = solveOne(k)) return status;
+        }
+        return qorStatusOk;
     }
-    const LaneGuard<T, Src, Vectors> guard(src, scratch, dstVectors, dstValues, n);
-    constexpr std::ptrdiff_t lanes = laneCount<LanesOf<T>>;
-    for (std::ptrdiff_t first = 0; first < count; first += lanes) {
-        const int live = static_cast<int>(std::min(lanes, count - first));
-        const bool solved =
-            guard.allows(first, live) && withLaneSize(n, [&](auto size) {
-                return solveLanes<variant>(src, dstVectors, dstValues, first, live, size);
-            });
-        if (solved) continue;
-        const qorStatus status =
-            solveObjects<variant>(src, scratch, dstVectors, dstValues, n, first, first + live - 1);
-        if (status != qorStatusOk) return status;
-    }
-    return qorStatusOk;
+    const LaneGuard guard(src, scratch, dstVectors, dstValues, n);
+    return withStaticSize(n, [&](auto size) {
+        return inLanes<LanesOf<T>>(guard, count, [&]<class V>(std::ptrdiff_t first, int live) {
+            if constexpr (laneCount<V> == 1)
+                return solveOne(first);
+            else
+                return solveLanes<variant, V>(src, dstVectors, dstValues, first, live, size);
+        });
+    });
 }
 
 template <Variant variant, class Src, class T>

@@ -98,18 +98,13 @@ bool combinePositions(const Op& op, const D& dst, std::ptrdiff_t width, std::ptr
     return true;
 }
 
-// Whether no element of a source lies where the destination is written. A list is not looked
-// through: a test for each object costs more than it brings.
+// Whether no element of a source lies where the destination is written.
 template <class S, class D>
 bool isApart(const S& source, const D& dst, std::ptrdiff_t width, std::ptrdiff_t height,
              std::ptrdiff_t count) {
-    if constexpr (D::layout == Layout::S) {
-        const RegularSpans read = isTransposed(S::kind) ? spansOf(source.operand, width, height)
-                                                        : spansOf(source.operand, height, width);
-        return areApart(read, spansOf(dst, height, width), count);
-    } else {
-        return false;
-    }
+    const Spans read = isTransposed(S::kind) ? spansOf(source.operand, width, height)
+                                             : spansOf(source.operand, height, width);
+    return areApart(read, spansOf(dst, height, width), count);
 }
 
 template <class Op, class D, class Width, class Height, class... Sources>

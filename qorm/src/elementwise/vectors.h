@@ -26,15 +26,6 @@ constexpr CheckOrder usualChecks = {Check::null, Check::count, Check::size, Chec
 // The forms on single vectors, or single matrices, have no count.
 constexpr CheckOrder checksOfSingles = {Check::null, Check::size, Check::stride, Check::shift};
 
-// Whether a single vector is known to lie where nothing is written. Lists are not looked through.
-template <class S, class D>
-bool isSurelyApart(const S& source, const D& dst, std::ptrdiff_t len, std::ptrdiff_t count) {
-    if constexpr (D::layout == Layout::L)
-        return false;
-    else
-        return areApart(spansOf(source.operand, 1, len), spansOf(dst, 1, len), count);
-}
-
 // combine() of two vectors. Where a path of its own holds a single vector for all objects, results
 // may be written over it; elsewhere it is read again for each object.
 template <bool holdsSingle, class Op, class D, class A, class B>
@@ -46,7 +37,11 @@ qorStatus combineVectors(const Op& op, const D& dst, Size len, Count count, cons
     if constexpr (holdsSingle && isArray(A::kind) != isArray(B::kind)) {
         constexpr bool firstIsSingle = isArray(B::kind);
         const auto& single = std::get < firstIsSingle ? 0 : 1 > (std::tie(a, b));
-        if (isUnrolled(len.value) && !isSurelyApart(single, dst, len.value, count.value)) {
+        const auto isSingleApart = [&] {
+            return areApart(spansOf(single.operand, 1, len.value), spansOf(dst, 1, len.value),
+                            count.value);
+        };
+        if (isUnrolled(len.value) && !isSingleApart()) {
             const HeldVector held(single.operand, len.value);
             const auto source = sourceOf<Kind::v>(held.operand());
             if constexpr (firstIsSingle)

@@ -9,7 +9,8 @@
     QORM_FUNCTION_##kind##_##layout( \
         name, \
         qorm::factorisations::formOfCholesky(sizeof(QORM_TYPE_##type), qorm::Layout::layout), \
-        qorm::factorisations::factoriseCholesky, QORM_CHOLESKY_ARGUMENTS, QORM_TYPE_##type, kind)
+        QORM_ON_OBJECTS(qorm::factorisations::factoriseCholesky), QORM_CHOLESKY_ARGUMENTS, \
+        QORM_TYPE_##type, kind)
 
 #define QORM_CHOLESKY_ARGUMENTS(PART, access, T, kind) \
     PART##_##kind##_##access(const T, Src, src), PART##_##kind##_##access(T, Dst, dst), \
@@ -38,10 +39,10 @@ constexpr Form<CholeskyMeasure> formOfCholesky(std::size_t elementSize, Layout l
 // Pivots have to be larger. Pointer layout has a threshold at size 3, in both types that of 32f;
 // arrays of 64f by general strides have one from size 6 up and below size 3.
 template <class Src>
-auto pivotThreshold(std::ptrdiff_t n) {
+auto pivotThreshold(const Src& src, std::ptrdiff_t n) {
     using T = std::remove_const_t<typename Src::Element>;
-    constexpr bool isGeneral64fArray =
-        Src::layout == Layout::S && Src::holdsArray && !Src::hasContiguousRows && sizeof(T) == 8;
+    const bool isGeneral64fArray = Src::layout == Layout::S && !src.isList() && Src::holdsArray &&
+                                   !Src::hasContiguousRows && sizeof(T) == 8;
     if (Src::layout == Layout::P && n == 3) return T(epsilon<float>());
     if (isGeneral64fArray && (n < 3 || n > 5)) return epsilon<T>();
     return T(0);
@@ -121,7 +122,7 @@ template <class Src, class Dst>
 qorStatus factoriseCholesky(const Src& src, const Dst& dst, Size size, Count count = Count(1)) {
     using T = typename Dst::Element;
     const std::ptrdiff_t n = size.value;
-    const T threshold = pivotThreshold<Src>(n);
+    const T threshold = pivotThreshold(src, n);
     const auto guard = [&] {
         return guardOf(sharingOf(n, Sharing::places), src, dst, {n, n}, count.value);
     };

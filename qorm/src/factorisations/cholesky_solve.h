@@ -10,7 +10,7 @@
                                        (qorm::factorisations::formOfCholeskySolve( \
                                            qorm::Kind::matrix, qorm::Kind::vectors, \
                                            sizeof(QORM_TYPE_##type), qorm::Layout::layout)), \
-                                       qorm::factorisations::solveCholesky, \
+                                       QORM_ON_OBJECTS(qorm::factorisations::solveCholesky), \
                                        QORM_CHOLESKY_SOLVE_ARGUMENTS, QORM_TYPE_##type, matrix, \
                                        vectors)
 

@@ -9,7 +9,8 @@
 #define QORM_LU(name, kind, type, layout) \
     QORM_FUNCTION_##kind##_##layout( \
         name, qorm::factorisations::formOfLu(sizeof(QORM_TYPE_##type), qorm::Layout::layout), \
-        qorm::factorisations::factoriseLu, QORM_LU_ARGUMENTS, QORM_TYPE_##type, kind)
+        QORM_ON_OBJECTS(qorm::factorisations::factoriseLu), QORM_LU_ARGUMENTS, QORM_TYPE_##type, \
+        kind)
 
 #define QORM_LU_ARGUMENTS(PART, access, T, kind) \
     PART##_##kind##_##access(const T, Src, src), PART##_pivots_##kind(std::int32_t, pDstIndex), \
@@ -231,6 +232,9 @@ template <class V, class Src, class Dst, class N>
         if (const auto status = runFor<factoriseLuLanes<V, N>>(src, work, index, n)) return status;
         if constexpr (hasOwnPath<N>) {
             storeLanes(dst, first, live, n, n, work);
+        } else if (movesRowsInRegisters<N>(dst)) {
+            restoreRows(work, index, n);
+            storeLanes(dst, first, live, n, n, work);
         } else {
             const auto rowOf = [&](int lane, std::ptrdiff_t k) {
                 return static_cast<std::ptrdiff_t>(laneOf(index(k), lane));
@@ -244,7 +248,7 @@ template <class V, class Src, class Dst, class N>
 
 // Exchanges of rows keep whole matrices at work: larger ones need all registers for one pack.
 template <class Operand, class N>
-using LuLanes = LanesOf<Operand, N, (hasOwnPath<N> && areaOf<N> > 16) ? 1 : 2>;
+using LuLanes = LanesOf<Operand, N, (isFixed<N> && areaOf<N> > 16) ? 1 : 2>;
 
 template <class Src, class Dst>
 qorStatus factoriseLu(const Src& src, const Plain<std::int32_t>& pivots, const Dst& dst, Size size,

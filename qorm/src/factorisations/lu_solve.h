@@ -7,9 +7,10 @@
 
 // name, the kinds of the matrix and of the vectors, type, layout
 #define QORM_LU_SOLVE(name, matrix, vectors, type, layout) \
-    QORM_FUNCTION_##vectors##_##layout( \
-        name, qorm::factorisations::formOfLuSolve(qorm::Kind::matrix), \
-        qorm::factorisations::solveLu, QORM_LU_SOLVE_ARGUMENTS, QORM_TYPE_##type, matrix, vectors)
+    QORM_FUNCTION_##vectors##_##layout(name, \
+                                       qorm::factorisations::formOfLuSolve(qorm::Kind::matrix), \
+                                       QORM_ON_OBJECTS(qorm::factorisations::solveLu), \
+                                       QORM_LU_SOLVE_ARGUMENTS, QORM_TYPE_##type, matrix, vectors)
 
 #define QORM_LU_SOLVE_ARGUMENTS(PART, access, T, matrix, vectors) \
     PART##_##matrix##_##access(const T, Src1, src1), \
@@ -146,8 +147,8 @@ void solveUnorderedLanes(const Loaded<V, N>& unordered, const LoadedVector<V, N>
         }
         ordered(i) = inOrder<V>(right, index, i, n);
     }
-    factors.invertPivots(n);
-    substituteByTerms<V>(factors, factors.reciprocals, ordered, solution, n);
+    if constexpr (hasOwnPath<N>) factors.invertPivots(n);
+    substituteLu<V>(factors, ordered, solution, n);
 }
 
 // The same where rows are loaded in the order of each lane's index.
@@ -192,7 +193,7 @@ template <class V, class Matrix, class B, class X, class N, class Shared>
             LoadedVector<V, N> index;
             loadPivots(pivots, first, live, n, index.elements);
             Loaded<V, N> factors(n);
-            if constexpr (hasOwnPath<N>) {
+            if (hasOwnPath<N> || movesRowsInRegisters<N>(matrix)) {
                 loadLanes(matrix, first, live, n, n, factors.matrix());
                 runFor<solveUnorderedLanes<V, N>>(matrix, factors, index, right, solution, n);
             } else {

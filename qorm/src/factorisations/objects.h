@@ -8,12 +8,12 @@
 namespace qorm::factorisations {
 
 // Two registers where there is room: what waits for a root or a division in one overlaps with the
-// other. The layouts in which loads and stores take the time have one, and so has a
-// size of 8, which is long enough.
+// other. The layouts in which loads and stores take the time have one, and so has a size of 8 in
+// contiguous rows, which is long enough.
 template <class Operand, class N, int registers = 2>
 using LanesOf =
     Pack<std::remove_const_t<typename Operand::Element>,
-         (Operand::layout == Layout::P || isFastest<Operand>)&&largestSize<N> != 8 ? registers : 1>;
+         mayFillRegisters<Operand> && !(isFastest<Operand> && largestSize<N> == 8) ? registers : 1>;
 
 // The most lanes that a block of these elements may have.
 template <class T>
@@ -29,14 +29,16 @@ qorStatus onAllObjects(const MakeGuard& guard, std::ptrdiff_t count, const Work&
         return work.template operator()<LaneType<V>>(0, 1);
 }
 
-// The arithmetic of a block, compiled into those of the fastest layout, and once for all others.
+// The arithmetic of a block, compiled into those of a constant size that whole registers are loaded
+// for, and once for all others.
 template <auto kernel, class... Arguments>
 [[gnu::noinline, gnu::flatten]] auto runApart(Arguments&... arguments) {
     return kernel(arguments...);
 }
 template <auto kernel, class Operand, class... Arguments>
 [[gnu::always_inline]] inline auto runFor(const Operand&, Arguments&... arguments) {
-    if constexpr (isFastest<Operand>)
+    constexpr bool knowsSize = (isFixed<std::remove_const_t<Arguments>> || ...);
+    if constexpr (mayFillRegisters<Operand> && knowsSize)
         return kernel(arguments...);
     else
         return runApart<kernel>(arguments...);

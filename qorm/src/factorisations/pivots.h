@@ -7,6 +7,13 @@
 
 namespace qorm::factorisations {
 
+// Whether rows of lanes change places in registers where their size has no path of its own: objects
+// side by side are loaded and stored whole, but only element by element in another order.
+template <class N, class Operand>
+bool movesRowsInRegisters(const Operand& operand) {
+    return isFixed<N> && Operand::layout == Layout::P && operand.hasObjectsSideBySide();
+}
+
 typedef std::int32_t RegisterOfIntegers __attribute__((vector_size(registerBytes)));
 typedef std::int32_t HalfOfIntegers __attribute__((vector_size(registerBytes / 2)));
 

@@ -8,8 +8,8 @@
 // name, the kind of source and destination, type, layout
 #define QORM_QR(name, kind, type, layout) \
     QORM_FUNCTION_##kind##_##layout(name, qorm::factorisations::formOfQr(qorm::Layout::layout), \
-                                    qorm::factorisations::factoriseQr, QORM_QR_ARGUMENTS, \
-                                    QORM_TYPE_##type, kind)
+                                    QORM_ON_OBJECTS(qorm::factorisations::factoriseQr), \
+                                    QORM_QR_ARGUMENTS, QORM_TYPE_##type, kind)
 
 #define QORM_QR_ARGUMENTS(PART, access, T, kind) \
     PART##_##kind##_##access(const T, Src, src), PART##_columnBuffer(T), \

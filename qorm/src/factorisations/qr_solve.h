@@ -9,7 +9,8 @@
 #define QORM_QR_SOLVE(name, matrix, vectors, type, layout) \
     QORM_FUNCTION_##vectors##_##layout( \
         name, qorm::factorisations::formOfQrSolve(qorm::Kind::matrix, qorm::Layout::layout), \
-        qorm::factorisations::solveQr, QORM_QR_SOLVE_ARGUMENTS, QORM_TYPE_##type, matrix, vectors)
+        QORM_ON_OBJECTS(qorm::factorisations::solveQr), QORM_QR_SOLVE_ARGUMENTS, QORM_TYPE_##type, \
+        matrix, vectors)
 
 #define QORM_QR_SOLVE_ARGUMENTS(PART, access, T, matrix, vectors) \
     PART##_##matrix##_##access(const T, Src1, src1), PART##_columnBuffer(T), \

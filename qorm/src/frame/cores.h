@@ -3,6 +3,10 @@
 
 #include "frame/signatures.h"
 
+// The run of a family whose kernels serve lists and arrays by strides alike.
+#define QORM_ON_OBJECTS(...) \
+    ([](const auto&... groups) { return __VA_ARGS__(qorm::asObjects(groups)...); })
+
 #define QORM_CORE(name, run, access, ARGUMENTS, ...) \
     extern "C" QORM_API qorStatus name(ARGUMENTS(PARAM, access, __VA_ARGS__)) { \
         return run(ARGUMENTS(GROUP, access, __VA_ARGS__)); \

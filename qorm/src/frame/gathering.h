@@ -72,18 +72,15 @@ constexpr Origin<lanes> originOf(const std::array<int, lanes>& wanted, int all) 
 template <auto origin, int index, class V>
 [[gnu::always_inline]] inline V gatherFromRun(const V& before, const V& run) {
     constexpr int lanes = laneCount<V>;
-    constexpr auto sourceOf = [](std::size_t lane) {
+    constexpr auto sourceOf = [](int l) {
+        const auto lane = static_cast<std::size_t>(l);
         if (origin.runOf[lane] == index)
             return index == 0 ? origin.placeOf[lane] : lanes + origin.placeOf[lane];
-        return index == 1 ? origin.placeOf[lane] : static_cast<int>(lane);
+        return index == 1 ? origin.placeOf[lane] : l;
     };
-    return [&]<std::size_t... lane>(std::index_sequence<lane...>) __attribute__((always_inline)) {
-        V gathered;
-        gathered.lanes[0] =
-            __builtin_shufflevector(before.lanes[0], run.lanes[0], sourceOf(lane)...);
-        return gathered;
-    }
-    (std::make_index_sequence<lanes>());
+    V gathered;
+    gathered.lanes[0] = shuffled<sourceOf>(before.lanes[0], run.lanes[0], upTo<lanes>);
+    return gathered;
 }
 
 // The wanted elements out of the `all` that begin at `from`; no byte behind these is read.
@@ -96,10 +93,12 @@ template <Scalar T, auto wanted, int all>
     };
     Pack<T> gathered = run(std::integral_constant<int, 0>());
     if constexpr (origin.count == 1) gathered = gatherFromRun<origin, 0>(gathered, gathered);
-    forEachConstant<origin.count - 1>([&](auto before) __attribute__((always_inline)) {
-        constexpr int next = before + 1;
-        gathered = gatherFromRun<origin, next>(gathered, run(std::integral_constant<int, next>()));
-    });
+    forEachConstant(
+        upTo<origin.count - 1>, [&](auto before) __attribute__((always_inline)) {
+            constexpr int next = before + 1;
+            gathered =
+                gatherFromRun<origin, next>(gathered, run(std::integral_constant<int, next>()));
+        });
     return gathered;
 }
 

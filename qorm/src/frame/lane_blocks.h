@@ -40,6 +40,8 @@ constexpr std::ptrdiff_t columnsOfRow(std::ptrdiff_t row, std::ptrdiff_t columns
 // Which elements of a run belong to the part, in matrices whose rows, or that themselves, are adjacent.
 template <Part part, int rows, int columns>
 struct Belonging {
+    static constexpr bool isAll = part == Part::whole;
+
     static constexpr bool at(int k) {
         return part == Part::whole || k % columns <= k / columns % rows;
     }
@@ -50,45 +52,95 @@ struct Belonging {
     }
 };
 
+// Runs are loaded and stored in chunks of a register's length. One that would reach behind the end of
+// its run begins earlier instead, if it can. Many chunks are a loop where the block that they belong to
+// would not stay in registers anyway.
+template <int length, int lanes, bool inMemory>
+struct Chunks {
+    static constexpr int count = (length + lanes - 1) / lanes;
+    static constexpr bool areLoop = count > 2 && (inMemory || length > 36);
+
+    static constexpr int beginOf(int chunk) {
+        return std::max(0, std::min(chunk * lanes, length - lanes));
+    }
+};
+
 // Loads the runs of a register's lanes, of `length` elements each: lane l of at(k) becomes element k
-// of runOf(l). A chunk that would reach behind the end of its run begins earlier instead, if it can.
-template <Scalar T, int length, class RunOf, class At>
+// of runOf(l).
+template <Scalar T, int length, bool inMemory, class RunOf, class At>
 [[gnu::always_inline]] inline void loadRuns(const RunOf& runOf, const At& at) {
     constexpr int lanes = laneCount<Pack<T>>;
     constexpr int live = std::min(lanes, length);
-    forEachConstant<(length + lanes - 1) / lanes>([&](auto which) __attribute__((always_inline)) {
-        constexpr int from = std::max(0, std::min(which * lanes, length - lanes));
+    using InChunks = Chunks<length, lanes, inMemory>;
+    const auto loadChunk = [&](int begin) __attribute__((always_inline)) {
         Register<T> chunk[lanes];
-        forEachConstant<lanes>([&](auto lane) __attribute__((always_inline)) {
-            chunk[lane] = loadVector<T, lanes, live>(runOf(lane) + from);
-        });
+        forEachConstant(
+            upTo<lanes>, [&](auto lane) __attribute__((always_inline)) {
+                chunk[lane] = loadVector<T, lanes, live>(runOf(lane) + begin);
+            });
         transposeRegisters(chunk);
-        forEachConstant<live>([&](auto i)
-                                  __attribute__((always_inline)) { at(from + i) = chunk[i]; });
-    });
+        forEachConstant(
+            upTo<live>, [&](auto i) __attribute__((always_inline)) { at(begin + i) = chunk[i]; });
+    };
+    if constexpr (InChunks::areLoop) {
+        for (int chunk = 0; chunk < InChunks::count; ++chunk) loadChunk(InChunks::beginOf(chunk));
+    } else {
+        forEachConstant(
+            upTo<InChunks::count>, [&](auto chunk) __attribute__((always_inline)) {
+                loadChunk(InChunks::beginOf(chunk));
+            });
+    }
 }
 
-// The way back, for the elements that belong. Each run is stored whole before the next one.
-template <Scalar T, int length, class Belongs, class RunOf, class At>
+// The way back. Each run is stored whole before the next one.
+template <Scalar T, int length, class InChunks, class RunOf, class At>
+[[gnu::always_inline]] inline void storeInLoop(const RunOf& runOf, int live, const At& at) {
+    constexpr int lanes = laneCount<Pack<T>>;
+    Register<T> registers[InChunks::count][lanes];
+    for (int chunk = 0; chunk < InChunks::count; ++chunk) {
+        forEachConstant(
+            upTo<lanes>, [&](auto i) __attribute__((always_inline)) {
+                registers[chunk][i] = at(InChunks::beginOf(chunk) + i);
+            });
+        transposeRegisters(registers[chunk]);
+    }
+    for (int lane = 0; lane < std::min(lanes, live); ++lane) {
+        T* const run = runOf(lane);
+        for (int chunk = 0; chunk < InChunks::count; ++chunk) {
+            storeVector<T, lanes, lanes>(registers[chunk][lane], run + InChunks::beginOf(chunk));
+        }
+    }
+}
+
+// The same for the elements that belong.
+template <Scalar T, int length, bool inMemory, class Belongs, class RunOf, class At>
 [[gnu::always_inline]] inline void storeRuns(const RunOf& runOf, int live, const At& at) {
     constexpr int lanes = laneCount<Pack<T>>;
-    constexpr int chunks = (length + lanes - 1) / lanes;
+    using InChunks = Chunks<length, lanes, inMemory>;
+    constexpr int chunks = InChunks::count;
+    if constexpr (Belongs::isAll && InChunks::areLoop)
+        return storeInLoop<T, length, InChunks>(runOf, live, at);
     Register<T> registers[chunks][lanes];
-    forEachConstant<chunks>([&](auto chunk) __attribute__((always_inline)) {
-        forEachConstant<lanes>([&](auto i) __attribute__((always_inline)) {
-            registers[chunk][i] = at(std::min<int>(chunk * lanes + i, length - 1));
+    forEachConstant(
+        upTo<chunks>, [&](auto chunk) __attribute__((always_inline)) {
+            forEachConstant(
+                upTo<lanes>, [&](auto i) __attribute__((always_inline)) {
+                    registers[chunk][i] = at(std::min<int>(chunk * lanes + i, length - 1));
+                });
+            transposeRegisters(registers[chunk]);
         });
-        transposeRegisters(registers[chunk]);
-    });
-    forEachConstant<lanes>([&](auto lane) __attribute__((always_inline)) {
-        if (lane >= live) return;
-        T* const run = runOf(lane);
-        forEachConstant<chunks>([&](auto chunk) __attribute__((always_inline)) {
-            constexpr int begin = chunk * lanes;
-            constexpr unsigned mask = Belongs::maskOf(begin, std::min(begin + lanes, length));
-            storeLanesOf<T, lanes, mask>(registers[chunk][lane], run + begin);
+    forEachConstant(
+        upTo<lanes>, [&](auto lane) __attribute__((always_inline)) {
+            if (lane >= live) return;
+            T* const run = runOf(lane);
+            forEachConstant(
+                upTo<chunks>, [&](auto chunk) __attribute__((always_inline)) {
+                    constexpr int begin = chunk * lanes;
+                    constexpr unsigned mask =
+                        Belongs::maskOf(begin, std::min(begin + lanes, length));
+                    storeLanesOf<T, lanes, mask>(registers[chunk][lane], run + begin);
+                });
         });
-    });
 }
 
 // Both for runs whose length is known at run time only.
@@ -98,10 +150,11 @@ template <Scalar T, class RunOf, class At>
     for (int from = 0; from < length; from += lanes) {
         const int live = std::min(lanes, length - from);
         Register<T> chunk[lanes];
-        forEachConstant<lanes>([&](auto lane) __attribute__((always_inline)) {
-            const T* const begin = runOf(lane) + from;
-            chunk[lane] = (live == lanes ? loadRun(begin) : loadRun(begin, live)).lanes[0];
-        });
+        forEachConstant(
+            upTo<lanes>, [&](auto lane) __attribute__((always_inline)) {
+                const T* const begin = runOf(lane) + from;
+                chunk[lane] = (live == lanes ? loadRun(begin) : loadRun(begin, live)).lanes[0];
+            });
         transposeRegisters(chunk);
         for (int i = 0; i < live; ++i) at(from + i) = chunk[i];
     }
@@ -141,9 +194,10 @@ struct RegistersOf {
 // work(r, at) for each register of a block of packs: at(k) is that of element k.
 template <Scalar T, int registers, class Work>
 [[gnu::always_inline]] inline void forEachRegister(Pack<T, registers>* block, const Work& work) {
-    forEachConstant<registers>([&](auto r) __attribute__((always_inline)) {
-        work(r, RegistersOf<T, registers>{block, r});
-    });
+    forEachConstant(
+        upTo<registers>, [&](auto r) __attribute__((always_inline)) {
+            work(r, RegistersOf<T, registers>{block, r});
+        });
 }
 
 // The same for objects that lie one behind the other.
@@ -155,14 +209,16 @@ template <Scalar T, int length, int registers>
             const T* const begin = from + r * lanes * length;
             if constexpr (hasPackedTransposition<length>) {
                 Register<T> packed[length];
-                forEachConstant<length>([&](auto k) __attribute__((always_inline)) {
-                    packed[k] = loadVector<T, lanes, lanes>(begin + k * lanes);
-                });
+                forEachConstant(
+                    upTo<length>, [&](auto k) __attribute__((always_inline)) {
+                        packed[k] = loadVector<T, lanes, lanes>(begin + k * lanes);
+                    });
                 PackedTransposition<length, lanes>::gather(packed);
-                forEachConstant<length>([&](auto k)
-                                            __attribute__((always_inline)) { at(k) = packed[k]; });
+                forEachConstant(
+                    upTo<length>, [&](auto k)
+                                      __attribute__((always_inline)) { at(k) = packed[k]; });
             } else {
-                loadRuns<T, length>(
+                loadRuns<T, length, false>(
                     [begin](int lane)
                         __attribute__((always_inline)) { return begin + lane * length; },
                     at);
@@ -178,15 +234,17 @@ template <Scalar T, int length, class Belongs, int registers>
             T* const begin = to + r * lanes * length;
             if constexpr (hasPackedTransposition<length>) {
                 Register<T> packed[length];
-                forEachConstant<length>([&](auto k)
-                                            __attribute__((always_inline)) { packed[k] = at(k); });
+                forEachConstant(
+                    upTo<length>, [&](auto k)
+                                      __attribute__((always_inline)) { packed[k] = at(k); });
                 PackedTransposition<length, lanes>::scatter(packed);
-                forEachConstant<length>([&](auto k) __attribute__((always_inline)) {
-                    constexpr unsigned mask = Belongs::maskOf(k * lanes, (k + 1) * lanes);
-                    storeLanesOf<T, lanes, mask>(packed[k], begin + k * lanes);
-                });
+                forEachConstant(
+                    upTo<length>, [&](auto k) __attribute__((always_inline)) {
+                        constexpr unsigned mask = Belongs::maskOf(k * lanes, (k + 1) * lanes);
+                        storeLanesOf<T, lanes, mask>(packed[k], begin + k * lanes);
+                    });
             } else {
-                storeRuns<T, length, Belongs>(
+                storeRuns<T, length, false, Belongs>(
                     [begin](int lane)
                         __attribute__((always_inline)) { return begin + lane * length; },
                     lanes, at);
@@ -196,20 +254,25 @@ template <Scalar T, int length, class Belongs, int registers>
 
 // Where the objects of each lane begin. Idle lanes repeat the last object.
 template <int lanes, class Operand>
-[[gnu::always_inline]] inline auto addressesOf(const Operand& operand, std::ptrdiff_t first,
-                                               int live) {
+[[gnu::noinline]] auto addressesOf(const Operand& operand, std::ptrdiff_t first, int live) {
     const auto addressOf = [&](std::ptrdiff_t n) __attribute__((always_inline)) {
         return operand.object(n, 0)(0, 0).address();
     };
     auto address = addressOf(first);
     std::array<decltype(address), lanes> addresses;
-    forEachConstant<lanes>([&](auto lane) __attribute__((always_inline)) {
-        addresses[lane] = address;
-        if constexpr (Operand::layout == Layout::L)
-            address = addressOf(first + std::min(lane + 1, live - 1));
-        else
-            address = stepped(address, lane + 1 < live ? operand.stride0 : 0);
-    });
+    if (operand.isList()) {
+        forEachConstant(
+            upTo<lanes>, [&](auto lane) __attribute__((always_inline)) {
+                addresses[lane] = address;
+                address = addressOf(first + std::min(lane + 1, live - 1));
+            });
+    } else {
+        forEachConstant(
+            upTo<lanes>, [&](auto lane) __attribute__((always_inline)) {
+                addresses[lane] = address;
+                address = stepped(address, lane + 1 < live ? operand.stride0 : 0);
+            });
+    }
     return addresses;
 }
 
@@ -230,10 +293,14 @@ template <class T, std::size_t lanes>
 // Element (i, j) of the part to its place in a block of such a size, or from there.
 template <Part part, int rows, int columns, class Work>
 [[gnu::always_inline]] inline void forEachOf(const Work& work) {
-    forEachConstant<rows>([&](auto i) __attribute__((always_inline)) {
-        forEachConstant<static_cast<int>(columnsOfRow<part>(i, columns))>([&](
-            auto j) __attribute__((always_inline)) { work(i * columns + j); });
-    });
+    forEachConstant(
+        upTo<rows>, [&](auto i) __attribute__((always_inline)) {
+            forEachConstant(
+                upTo<static_cast<int>(columnsOfRow<part>(i, columns))>, [&](auto j) __attribute__((
+                                                                            always_inline)) {
+                    work(i * columns + j);
+                });
+        });
 }
 
 // The objects of one register's lanes, each of contiguous rows. What is not packed all over shares
@@ -242,25 +309,34 @@ template <Part part, Scalar T, int rows, int columns>
 [[gnu::noinline]] void loadObjects(const T* const* objects, bool adjacentRows,
                                    std::ptrdiff_t stride1, Register<T>* elements) {
     if (adjacentRows) {
-        loadRuns<T, rows * columns>(
+        loadRuns<T, rows * columns, true>(
             [objects](int lane) __attribute__((always_inline)) { return objects[lane]; },
             [elements](int k) __attribute__((always_inline))->auto& { return elements[k]; });
         return;
     }
-    forEachConstant<rows>([&](auto i) __attribute__((always_inline)) {
-        loadRuns<T, columnsOfRow<part>(i, columns)>(
+    const auto loadRow = [&]<int length>(int i, std::integral_constant<int, length>)
+        __attribute__((always_inline)) {
+        loadRuns<T, length, true>(
             [ objects, offset = i * stride1 ](int lane)
                 __attribute__((always_inline)) { return stepped(objects[lane], offset); },
             [row = elements + i * columns](int j) __attribute__((always_inline))->auto& {
                 return row[j];
             });
-    });
+    };
+    if constexpr (part == Part::whole) {
+        for (int i = 0; i < rows; ++i) loadRow(i, std::integral_constant<int, columns>());
+    } else {
+        forEachConstant(
+            upTo<rows>, [&](auto i) __attribute__((always_inline)) {
+                loadRow(i, std::integral_constant<int, columnsOfRow<part>(i, columns)>());
+            });
+    }
 }
 
 // The way back, for adjacent rows.
 template <Part part, Scalar T, int rows, int columns>
 [[gnu::noinline]] void storeObjects(T* const* objects, int live, const Register<T>* elements) {
-    storeRuns<T, rows * columns, Belonging<part, rows, columns>>(
+    storeRuns<T, rows * columns, true, Belonging<part, rows, columns>>(
         [objects](int lane) __attribute__((always_inline)) { return objects[lane]; },
         live, [elements](int k) __attribute__((always_inline)) { return elements[k]; });
 }

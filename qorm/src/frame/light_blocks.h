@@ -7,16 +7,6 @@
 
 namespace qorm {
 
-// Whether `count` objects of a source surely lie where none of the destination's does. Lists are not
-// looked through.
-template <class Reads, class Writes>
-bool areSurelyApart(const Reads& reads, const Writes& writes, std::ptrdiff_t count) {
-    if constexpr (std::is_same_v<Reads, RegularSpans> && std::is_same_v<Writes, RegularSpans>)
-        return areApart(reads, writes, count);
-    else
-        return false;
-}
-
 // What it costs light arithmetic to go in lanes: nothing where objects are packed or lie side by side,
 // so that whole registers are loaded or stored; in lists most, where blocks are tested for overlap.
 template <class Operand>
@@ -24,7 +14,7 @@ int costOfLanes(const Operand& operand, std::ptrdiff_t rows, std::ptrdiff_t colu
     if (!Operand::holdsArray || operand.hasObjectsSideBySide() ||
         (operand.hasAdjacentRows(columns) && operand.hasAdjacentObjects(rows * columns)))
         return 0;
-    return Operand::layout == Layout::L ? 2 : 1;
+    return operand.isList() ? 2 : 1;
 }
 
 // The cost, over all operands, from which on an object after the other is done sooner.

@@ -75,6 +75,7 @@ auto tupleIf(Argument argument) {
 // each position do.
 struct Group {
     bool isNull() const { return false; }
+    static constexpr bool isList() { return false; }
     bool hasBadSize() const { return false; }
     bool hasBadCount() const { return false; }
     bool hasBadStride0() const { return false; }
@@ -189,6 +190,7 @@ struct List : Group {
     static constexpr Layout layout = Layout::L;
     static constexpr bool hasContiguousRows = contiguousRows;
     static constexpr bool holdsArray = isArray(kind);
+    static constexpr std::int32_t stride0 = 0;
 
     T* const* table;
     std::int32_t shift;
@@ -199,6 +201,7 @@ struct List : Group {
         : table(pp), shift(byteShift), stride1(s1), stride2(s2) {}
 
     bool isNull() const { return table == nullptr; }
+    static constexpr bool isList() { return true; }
     bool hasBadInnerStride() const {
         return (!isVector(kind) && isBadStride<T>(stride1)) || isBadStride<T>(stride2);
     }
@@ -221,6 +224,68 @@ struct List : Group {
         return {stepped(table[n], shift), stride1, stride2};
     }
 };
+
+// An array by strides or of a list, for kernels that serve both.
+template <class T, Kind kind, bool contiguousRows>
+struct Objects {
+    using Element = T;
+    static constexpr Layout layout = Layout::S;
+    static constexpr bool hasContiguousRows = contiguousRows;
+    static constexpr bool holdsArray = true;
+
+    T* base;         // of the first object by strides
+    T* const* table; // of a list
+    std::int32_t shift;
+    std::int32_t stride0;
+    std::int32_t stride1;
+    std::int32_t stride2;
+
+    explicit Objects(const Strided<T, kind, contiguousRows>& array)
+        : base(array.base),
+          table(nullptr),
+          shift(0),
+          stride0(array.stride0),
+          stride1(array.stride1),
+          stride2(array.stride2) {}
+    explicit Objects(const List<T, kind, contiguousRows>& list)
+        : base(nullptr),
+          table(list.table),
+          shift(list.shift),
+          stride0(0),
+          stride1(list.stride1),
+          stride2(list.stride2) {}
+
+    bool isList() const { return table != nullptr; }
+    Strided<T, kind, contiguousRows> strided() const { return {base, stride0, stride1, stride2}; }
+    List<T, kind, contiguousRows> listed() const { return {table, shift, stride1, stride2}; }
+
+    bool hasAdjacentRows(std::ptrdiff_t columns) const {
+        return strided().hasAdjacentRows(columns);
+    }
+    bool hasAdjacentObjects(std::ptrdiff_t elements) const {
+        return strided().hasAdjacentObjects(elements);
+    }
+    bool hasObjectsSideBySide() const { return false; }
+
+    StridedMatrix<T, contiguousRows> object(std::ptrdiff_t n, std::ptrdiff_t /*columns*/) const {
+        return {isList() ? stepped(table[n], shift) : stepped(base, n * stride0), stride1, stride2};
+    }
+};
+
+// A group as such kernels see it.
+template <class G>
+const G& asObjects(const G& group) {
+    return group;
+}
+template <class T, Kind kind, bool contiguousRows>
+requires(isArray(kind)) Objects<T, kind, contiguousRows> asObjects(
+    const Strided<T, kind, contiguousRows>& array) {
+    return Objects<T, kind, contiguousRows>(array);
+}
+template <class T, Kind kind, bool contiguousRows>
+Objects<T, kind, contiguousRows> asObjects(const List<T, kind, contiguousRows>& list) {
+    return Objects<T, kind, contiguousRows>(list);
+}
 
 // A plain array, `elements` per object; with none of its own, all objects have the same run.
 template <class T>
@@ -348,6 +413,8 @@ template <class Operand>
 inline constexpr bool holdsVectors = false;
 template <class T, Kind kind, bool contiguousRows>
 inline constexpr bool holdsVectors<Strided<T, kind, contiguousRows>> = isVector(kind);
+template <class T, Kind kind, bool contiguousRows>
+inline constexpr bool holdsVectors<Objects<T, kind, contiguousRows>> = isVector(kind);
 
 // Calls an entry or a driver with the arguments that the groups stand for.
 template <class Function, class... Groups>

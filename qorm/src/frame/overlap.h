@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <cstring>
 #include <iterator>
 
 namespace qorm {
@@ -30,43 +31,59 @@ Bytes bytesOf(const T* base, std::ptrdiff_t bytes) {
     return {begin, begin + static_cast<std::uintptr_t>(bytes)};
 }
 
-// The bytes that each object of an operand spans. Objects at a constant stride:
-struct RegularSpans {
-    Bytes object0;
+// The bytes that each object of an operand spans.
+struct Spans {
+    Bytes object0; // in a list, of an object at address 0
     std::ptrdiff_t stride0;
+    const void* table = nullptr; // of addresses, in a list
+
+    bool isList() const { return table != nullptr; }
 
     Bytes operator()(std::ptrdiff_t n) const {
-        const auto step = static_cast<std::uintptr_t>(n * stride0);
+        const std::uintptr_t step =
+            isList() ? addressOf(n) : static_cast<std::uintptr_t>(n * stride0);
         return {object0.begin + step, object0.end + step};
+    }
+
+private:
+    std::uintptr_t addressOf(std::ptrdiff_t n) const {
+        std::uintptr_t address;
+        std::memcpy(&address, static_cast<const char*>(table) + n * std::ptrdiff_t{sizeof address},
+                    sizeof address);
+        return address;
     }
 };
 
-// Objects of a list:
-template <class T>
-struct ListSpans {
-    T* const* table;
-    std::ptrdiff_t shift;
-    std::ptrdiff_t bytes;
-
-    Bytes operator()(std::ptrdiff_t n) const { return bytesOf(stepped(table[n], shift), bytes); }
-};
-
 template <class T, Kind kind, bool contiguousRows>
-RegularSpans spansOf(const Strided<T, kind, contiguousRows>& operand, std::ptrdiff_t rows,
-                     std::ptrdiff_t columns) {
+Spans spansOf(const Strided<T, kind, contiguousRows>& operand, std::ptrdiff_t rows,
+              std::ptrdiff_t columns) {
     const std::ptrdiff_t bytes = spanOfMatrix<T>(operand.stride1, operand.stride2, rows, columns);
     return {bytesOf(operand.base, bytes), operand.stride0};
 }
 
+template <class T, Kind kind, bool contiguousRows>
+Spans spansOf(const List<T, kind, contiguousRows>& operand, std::ptrdiff_t rows,
+              std::ptrdiff_t columns) {
+    const auto begin = static_cast<std::uintptr_t>(operand.shift);
+    const auto bytes = static_cast<std::uintptr_t>(
+        spanOfMatrix<T>(operand.stride1, operand.stride2, rows, columns));
+    return {{begin, begin + bytes}, 0, operand.table};
+}
+
+template <class T, Kind kind, bool contiguousRows>
+Spans spansOf(const Objects<T, kind, contiguousRows>& operand, std::ptrdiff_t rows,
+              std::ptrdiff_t columns) {
+    return operand.isList() ? spansOf(operand.listed(), rows, columns)
+                            : spansOf(operand.strided(), rows, columns);
+}
+
 template <class T>
-RegularSpans spansOf(const Packed<T>& operand, std::ptrdiff_t /*rows*/,
-                     std::ptrdiff_t /*columns*/) {
+Spans spansOf(const Packed<T>& operand, std::ptrdiff_t /*rows*/, std::ptrdiff_t /*columns*/) {
     return {bytesOf(operand.base, operand.stride0), operand.stride0};
 }
 
 template <class T, bool array>
-RegularSpans spansOf(const Pointers<T, array>& operand, std::ptrdiff_t rows,
-                     std::ptrdiff_t columns) {
+Spans spansOf(const Pointers<T, array>& operand, std::ptrdiff_t rows, std::ptrdiff_t columns) {
     const auto [lowest, highest] =
         std::minmax_element(operand.table, operand.table + rows * columns);
     const Bytes object0 = {bytesOf(stepped(*lowest, operand.shift), sizeof(T)).begin,
@@ -74,26 +91,15 @@ RegularSpans spansOf(const Pointers<T, array>& operand, std::ptrdiff_t rows,
     return {object0, operand.stride0};
 }
 
-template <class T, Kind kind, bool contiguousRows>
-ListSpans<T> spansOf(const List<T, kind, contiguousRows>& operand, std::ptrdiff_t rows,
-                     std::ptrdiff_t columns) {
-    return {operand.table, operand.shift,
-            spanOfMatrix<T>(operand.stride1, operand.stride2, rows, columns)};
-}
-
 template <class T>
-RegularSpans spansOf(const Plain<T>& runs) {
+Spans spansOf(const Plain<T>& runs) {
     const std::ptrdiff_t bytes = runs.elements * std::ptrdiff_t{sizeof(T)};
     return {bytesOf(runs.base, bytes), bytes};
 }
 
 // The bytes that objects first .. first + live - 1 span together.
-inline Bytes spanOfAll(const RegularSpans& spans, std::ptrdiff_t first, int live) {
-    return hullOf(spans(first), spans(first + live - 1));
-}
-
-template <class T>
-Bytes spanOfAll(const ListSpans<T>& spans, std::ptrdiff_t first, int live) {
+inline Bytes spanOfAll(const Spans& spans, std::ptrdiff_t first, int live) {
+    if (!spans.isList()) return hullOf(spans(first), spans(first + live - 1));
     Bytes all = spans(first);
     for (int k = 1; k < live; ++k) all = hullOf(all, spans(first + k));
     return all;
@@ -101,14 +107,12 @@ Bytes spanOfAll(const ListSpans<T>& spans, std::ptrdiff_t first, int live) {
 
 // Whether all objects first .. first + live - 1 may be read before the first of them is written: no
 // object is written over one that stands behind it.
-template <class Reads, class Writes>
-bool mayReadAhead(const Reads& reads, const Writes& writes, std::ptrdiff_t first, int live) {
+inline bool mayReadAhead(const Spans& reads, const Spans& writes, std::ptrdiff_t first, int live) {
     if (!overlap(spanOfAll(reads, first, live), spanOfAll(writes, first, live))) return true;
-    int writers = live;
-    if constexpr (std::is_same_v<Reads, RegularSpans> && std::is_same_v<Writes, RegularSpans>) {
-        // At equal strides what holds for the first object holds for all.
-        if (reads.stride0 == writes.stride0) writers = 1;
-    }
+    // At equal strides what holds for the first object holds for all.
+    const bool haveEqualStrides =
+        !reads.isList() && !writes.isList() && reads.stride0 == writes.stride0;
+    const int writers = haveEqualStrides ? 1 : live;
     for (int written = 0; written < writers; ++written) {
         for (int read = written + 1; read < live; ++read) {
             if (overlap(reads(first + read), writes(first + written))) return false;
@@ -141,9 +145,10 @@ bool hasDistinctElements(const Pointers<T, array>& operand, std::ptrdiff_t rows,
            }) == end;
 }
 
-// Whether no object of one operand overlaps any object of the other: apart altogether, or fields of
-// one array of structures.
-inline bool areApart(const RegularSpans& a, const RegularSpans& b, std::ptrdiff_t count) {
+// Whether no object of one operand overlaps any object of the other, as far as is known: apart
+// altogether, or fields of one array of structures. Lists are not looked through.
+[[gnu::noinline]] inline bool areApart(const Spans& a, const Spans& b, std::ptrdiff_t count) {
+    if (a.isList() || b.isList()) return false;
     const int objects = static_cast<int>(count);
     if (!overlap(spanOfAll(a, 0, objects), spanOfAll(b, 0, objects))) return true;
     if (a.stride0 != b.stride0 || a.stride0 == 0) return false;
@@ -270,41 +275,28 @@ enum class Sharing {
 };
 
 // Whether two operands place element (i, j) of an object at the same distance from its begin.
-template <class T, class U, Kind kind, bool contiguousRows>
-bool haveSameSteps(const Strided<T, kind, contiguousRows>& a,
-                   const Strided<U, kind, contiguousRows>& b, std::ptrdiff_t /*elements*/) {
-    return a.stride1 == b.stride1 && a.stride2 == b.stride2;
-}
-template <class T, class U, Kind kind, bool contiguousRows>
-bool haveSameSteps(const List<T, kind, contiguousRows>& a, const List<U, kind, contiguousRows>& b,
-                   std::ptrdiff_t /*elements*/) {
-    return a.stride1 == b.stride1 && a.stride2 == b.stride2;
-}
-template <class T, class U, bool array>
-bool haveSameSteps(const Pointers<T, array>& a, const Pointers<U, array>& b,
-                   std::ptrdiff_t elements) {
-    return a.shift == b.shift && std::equal(a.table, a.table + elements, b.table);
-}
 template <class A, class B>
-bool haveSameSteps(const A&, const B&, std::ptrdiff_t) {
-    return false;
+bool haveSameSteps(const A& a, const B& b, std::ptrdiff_t elements) {
+    if constexpr (A::layout != B::layout || A::holdsArray != B::holdsArray)
+        return false;
+    else if constexpr (A::layout == Layout::P)
+        return a.shift == b.shift && std::equal(a.table, a.table + elements, b.table);
+    else
+        return a.stride1 == b.stride1 && a.stride2 == b.stride2;
 }
 
 // Which runs of objects may be read all before the first of them is written.
-template <class Reads, class Writes>
 class ReadAhead {
 public:
-    ReadAhead(const Reads& read, const Writes& written, std::ptrdiff_t count,
+    ReadAhead(const Spans& read, const Spans& written, std::ptrdiff_t count,
               Sharing sharingOfObjects = Sharing::any)
-        : reads(read), writes(written), sharing(sharingOfObjects) {
-        if constexpr (std::is_same_v<Reads, RegularSpans> && std::is_same_v<Writes, RegularSpans>) {
-            always = areApart(reads, writes, count);
-        }
-    }
+        : reads(read),
+          writes(written),
+          sharing(sharingOfObjects),
+          always(areApart(read, written, count)) {}
 
     bool allows(std::ptrdiff_t first, int live) const {
-        if (always || never) return always;
-        return mayReadAhead(reads, writes, first, live) && objectsMayShare(first, live);
+        return always || (!never && mayRead(first, live));
     }
 
     void allowAlways() { always = true; }
@@ -315,6 +307,10 @@ public:
     void sharesPlaces(bool shared) { samePlaces = shared; }
 
 private:
+    [[gnu::noinline]] bool mayRead(std::ptrdiff_t first, int live) const {
+        return mayReadAhead(reads, writes, first, live) && objectsMayShare(first, live);
+    }
+
     bool objectsMayShare(std::ptrdiff_t first, int live) const {
         if (sharing == Sharing::any) return true;
         for (std::ptrdiff_t object = first; object < first + live; ++object) {
@@ -326,10 +322,10 @@ private:
         return true;
     }
 
-    Reads reads;
-    Writes writes;
+    Spans reads;
+    Spans writes;
     Sharing sharing;
-    bool always = false;
+    bool always;
     bool never = false;
     bool samePlaces = false;
 };
@@ -344,8 +340,8 @@ struct Extent {
 // The same for matrices or vectors of so many rows and columns, whose elements are written in any
 // order.
 template <class Src, class Dst>
-auto readAheadOf(Sharing sharing, const Src& src, Extent read, const Dst& dst, Extent written,
-                 std::ptrdiff_t count, int lanes) {
+ReadAhead readAheadOf(Sharing sharing, const Src& src, Extent read, const Dst& dst, Extent written,
+                      std::ptrdiff_t count, int lanes) {
     ReadAhead guard(spansOf(src, read.rows, read.columns),
                     spansOf(dst, written.rows, written.columns), count, sharing);
     if (!hasDistinctElements(dst, written.rows, written.columns, lanes)) {

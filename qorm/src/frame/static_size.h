@@ -103,10 +103,4 @@ constexpr bool isLaneSize(std::ptrdiff_t n) {
     return n >= 3 && n <= mostLaneSize;
 }
 
-// work(n) for the sizes that are done in lanes, with constants for 3 to 6; false for others.
-template <class Work>
-bool withLaneSize(std::ptrdiff_t n, const Work& work) {
-    return isLaneSize(n) && withStaticSize(n, work);
-}
-
 } // namespace qorm

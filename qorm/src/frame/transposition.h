@@ -7,13 +7,22 @@
 
 namespace qorm {
 
-// work(i) for the constants 0 .. end - 1.
-template <int end, class Work>
-[[gnu::always_inline]] inline void forEachConstant(const Work& work) {
-    [&]<int... i>(std::integer_sequence<int, i...>) __attribute__((always_inline)) {
-        (work(std::integral_constant<int, i>()), ...);
-    }
-    (std::make_integer_sequence<int, end>());
+// The constants 0 .. end - 1.
+template <int end>
+inline constexpr std::make_integer_sequence<int, end> upTo{};
+
+// work(i) for each. One function deep: what is inlined is copied at each level.
+template <int... i, class Work>
+[[gnu::always_inline]] inline void forEachConstant(std::integer_sequence<int, i...>,
+                                                   const Work& work) {
+    (work(std::integral_constant<int, i>()), ...);
+}
+
+// Lane l of the result is that of number sourceOf(l) in x and, behind it, y.
+template <auto sourceOf, class Vector, int... lane>
+[[gnu::always_inline]] inline Vector shuffled(const Vector& x, const Vector& y,
+                                              std::integer_sequence<int, lane...>) {
+    return __builtin_shufflevector(x, y, sourceOf(lane)...);
 }
 
 // The lower or upper halves of each group of `width` lanes of x and y, interleaved: within 16 bytes
@@ -26,10 +35,7 @@ template <bool upper, int width, class Vector>
         const int element = group + lane % width / 2 + (upper ? width / 2 : 0);
         return lane % 2 == 0 ? element : lanes + element;
     };
-    return [&]<int... lane>(std::integer_sequence<int, lane...>) __attribute__((always_inline)) {
-        return __builtin_shufflevector(x, y, sourceOf(lane)...);
-    }
-    (std::make_integer_sequence<int, lanes>());
+    return shuffled<sourceOf>(x, y, upTo<lanes>);
 }
 
 // In each group of `count` lanes, lane i of vector j becomes lane j of vector i.
@@ -37,12 +43,13 @@ template <class Vector, int count, int stages = count>
 [[gnu::always_inline]] inline void transpose(Vector (&vectors)[count]) {
     if constexpr (stages > 1) {
         Vector next[count];
-        forEachConstant<count / 2>([&](auto i) __attribute__((always_inline)) {
-            next[2 * i] = interleaved<false, count>(vectors[i], vectors[i + count / 2]);
-            next[2 * i + 1] = interleaved<true, count>(vectors[i], vectors[i + count / 2]);
-        });
-        forEachConstant<count>([&](auto i)
-                                   __attribute__((always_inline)) { vectors[i] = next[i]; });
+        forEachConstant(
+            upTo<count / 2>, [&](auto i) __attribute__((always_inline)) {
+                next[2 * i] = interleaved<false, count>(vectors[i], vectors[i + count / 2]);
+                next[2 * i + 1] = interleaved<true, count>(vectors[i], vectors[i + count / 2]);
+            });
+        forEachConstant(
+            upTo<count>, [&](auto i) __attribute__((always_inline)) { vectors[i] = next[i]; });
         transpose<Vector, count, stages / 2>(vectors);
     }
 }
@@ -55,10 +62,7 @@ template <bool odd, class Vector>
     constexpr auto sourceOf = [](int lane) {
         return (2 * (lane / width) + (odd ? 1 : 0)) * width + lane % width;
     };
-    return [&]<int... lane>(std::integer_sequence<int, lane...>) __attribute__((always_inline)) {
-        return __builtin_shufflevector(x, y, sourceOf(lane)...);
-    }
-    (std::make_integer_sequence<int, lanes>());
+    return shuffled<sourceOf>(x, y, upTo<lanes>);
 }
 
 // Block i of vector j becomes block j of vector i.
@@ -88,22 +92,26 @@ template <class Vector, int lanes>
     constexpr int width = 16 / sizeof registers[0][0];
     constexpr int blocks = lanes / width;
     Vector byPlace[width][blocks];
-    forEachConstant<blocks>([&](auto block) __attribute__((always_inline)) {
-        Vector group[width];
-        forEachConstant<width>([&](auto i) __attribute__((always_inline)) {
-            group[i] = registers[block * width + i];
+    forEachConstant(
+        upTo<blocks>, [&](auto block) __attribute__((always_inline)) {
+            Vector group[width];
+            forEachConstant(
+                upTo<width>, [&](auto i) __attribute__((always_inline)) {
+                    group[i] = registers[block * width + i];
+                });
+            transpose(group);
+            forEachConstant(
+                upTo<width>, [&](auto i)
+                                 __attribute__((always_inline)) { byPlace[i][block] = group[i]; });
         });
-        transpose(group);
-        forEachConstant<width>([&](auto i) __attribute__((always_inline)) {
-            byPlace[i][block] = group[i];
+    forEachConstant(
+        upTo<width>, [&](auto i) __attribute__((always_inline)) {
+            transposeBlocks(byPlace[i]);
+            forEachConstant(
+                upTo<blocks>, [&](auto block) __attribute__((always_inline)) {
+                    registers[block * width + i] = byPlace[i][block];
+                });
         });
-    });
-    forEachConstant<width>([&](auto i) __attribute__((always_inline)) {
-        transposeBlocks(byPlace[i]);
-        forEachConstant<blocks>([&](auto block) __attribute__((always_inline)) {
-            registers[block * width + i] = byPlace[i][block];
-        });
-    });
 }
 
 // Objects one behind the other, in as many registers as each has elements: lane l of register p
@@ -140,17 +148,16 @@ struct OddTransposition {
     // the way back r + bit.
     template <int bit, int sign, class Vector>
     [[gnu::always_inline]] static void rotate(Vector (&x)[elements]) {
+        constexpr auto sourceOf = [](int lane) {
+            return (rotationOf(lane) & bit) != 0 ? lanes + lane : lane;
+        };
         Vector next[elements];
-        forEachConstant<elements>([&](auto r) __attribute__((always_inline)) {
-            next[r] = [&]<int... lane>(std::integer_sequence<int, lane...>)
-                __attribute__((always_inline)) {
-                return __builtin_shufflevector(
-                    x[r], x[rotated(r, -sign * bit)],
-                    ((rotationOf(lane) & bit) != 0 ? lanes + lane : lane)...);
-            }
-            (std::make_integer_sequence<int, lanes>());
-        });
-        forEachConstant<elements>([&](auto r) __attribute__((always_inline)) { x[r] = next[r]; });
+        forEachConstant(
+            upTo<elements>, [&](auto r) __attribute__((always_inline)) {
+                next[r] = shuffled<sourceOf>(x[r], x[rotated(r, -sign * bit)], upTo<lanes>);
+            });
+        forEachConstant(
+            upTo<elements>, [&](auto r) __attribute__((always_inline)) { x[r] = next[r]; });
     }
 
     template <class Vector>
@@ -160,30 +167,28 @@ struct OddTransposition {
         rotate<4, 1>(x);
         rotate<8, 1>(x);
         Vector gathered[elements];
-        forEachConstant<elements>([&](auto p) __attribute__((always_inline)) {
-            gathered[p] = [&]<int... l>(std::integer_sequence<int, l...>)
-                __attribute__((always_inline)) {
+        forEachConstant(
+            upTo<elements>, [&](auto p) __attribute__((always_inline)) {
+                constexpr int element = p;
+                constexpr auto sourceOf = [](int l) { return laneOf(element, l); };
                 const Vector& from = x[registerOf(p)];
-                return __builtin_shufflevector(from, from, laneOf(p, l)...);
-            }
-            (std::make_integer_sequence<int, lanes>());
-        });
-        forEachConstant<elements>([&](auto p)
-                                      __attribute__((always_inline)) { x[p] = gathered[p]; });
+                gathered[p] = shuffled<sourceOf>(from, from, upTo<lanes>);
+            });
+        forEachConstant(
+            upTo<elements>, [&](auto p) __attribute__((always_inline)) { x[p] = gathered[p]; });
     }
 
     template <class Vector>
     [[gnu::always_inline]] static void scatter(Vector (&x)[elements]) {
         Vector scattered[elements];
-        forEachConstant<elements>([&](auto p) __attribute__((always_inline)) {
-            scattered[registerOf(p)] = [&]<int... lane>(std::integer_sequence<int, lane...>)
-                __attribute__((always_inline)) {
-                return __builtin_shufflevector(x[p], x[p], objectIn(p, lane)...);
-            }
-            (std::make_integer_sequence<int, lanes>());
-        });
-        forEachConstant<elements>([&](auto p)
-                                      __attribute__((always_inline)) { x[p] = scattered[p]; });
+        forEachConstant(
+            upTo<elements>, [&](auto p) __attribute__((always_inline)) {
+                constexpr int element = p;
+                constexpr auto sourceOf = [](int lane) { return objectIn(element, lane); };
+                scattered[registerOf(p)] = shuffled<sourceOf>(x[p], x[p], upTo<lanes>);
+            });
+        forEachConstant(
+            upTo<elements>, [&](auto p) __attribute__((always_inline)) { x[p] = scattered[p]; });
         rotate<8, -1>(x);
         rotate<4, -1>(x);
         rotate<2, -1>(x);
@@ -199,23 +204,21 @@ struct HalvingTransposition {
 
     template <bool odd, class Vector>
     [[gnu::always_inline]] static Vector parted(const Vector& x, const Vector& y) {
-        return [&]<int... lane>(std::integer_sequence<int, lane...>)
-            __attribute__((always_inline)) {
-            return __builtin_shufflevector(x, y, (2 * lane + (odd ? 1 : 0))...);
-        }
-        (std::make_integer_sequence<int, lanes>());
+        constexpr auto sourceOf = [](int lane) { return 2 * lane + (odd ? 1 : 0); };
+        return shuffled<sourceOf>(x, y, upTo<lanes>);
     }
 
     template <class Vector, int rounds = elements>
     [[gnu::always_inline]] static void gather(Vector (&x)[elements]) {
         if constexpr (rounds > 1) {
             Vector next[elements];
-            forEachConstant<half>([&](auto r) __attribute__((always_inline)) {
-                next[r] = parted<false>(x[2 * r], x[2 * r + 1]);
-                next[r + half] = parted<true>(x[2 * r], x[2 * r + 1]);
-            });
-            forEachConstant<elements>([&](auto r)
-                                          __attribute__((always_inline)) { x[r] = next[r]; });
+            forEachConstant(
+                upTo<half>, [&](auto r) __attribute__((always_inline)) {
+                    next[r] = parted<false>(x[2 * r], x[2 * r + 1]);
+                    next[r + half] = parted<true>(x[2 * r], x[2 * r + 1]);
+                });
+            forEachConstant(
+                upTo<elements>, [&](auto r) __attribute__((always_inline)) { x[r] = next[r]; });
             gather<Vector, rounds / 2>(x);
         }
     }
@@ -224,12 +227,13 @@ struct HalvingTransposition {
     [[gnu::always_inline]] static void scatter(Vector (&x)[elements]) {
         if constexpr (rounds > 1) {
             Vector next[elements];
-            forEachConstant<half>([&](auto r) __attribute__((always_inline)) {
-                next[2 * r] = interleaved<false, lanes>(x[r], x[r + half]);
-                next[2 * r + 1] = interleaved<true, lanes>(x[r], x[r + half]);
-            });
-            forEachConstant<elements>([&](auto r)
-                                          __attribute__((always_inline)) { x[r] = next[r]; });
+            forEachConstant(
+                upTo<half>, [&](auto r) __attribute__((always_inline)) {
+                    next[2 * r] = interleaved<false, lanes>(x[r], x[r + half]);
+                    next[2 * r + 1] = interleaved<true, lanes>(x[r], x[r + half]);
+                });
+            forEachConstant(
+                upTo<elements>, [&](auto r) __attribute__((always_inline)) { x[r] = next[r]; });
             scatter<Vector, rounds / 2>(x);
         }
     }

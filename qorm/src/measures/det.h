@@ -10,8 +10,8 @@
 #define QORM_DET(name, kind, type, layout) \
     QORM_FUNCTION_##kind##_##layout( \
         name, qorm::measures::formOfDet(sizeof(QORM_TYPE_##type), qorm::Layout::layout), \
-        (qorm::measures::determinants<qorm::Kind::kind>), QORM_DET_ARGUMENTS, QORM_TYPE_##type, \
-        kind)
+        QORM_ON_OBJECTS(qorm::measures::determinants<qorm::Kind::kind>), QORM_DET_ARGUMENTS, \
+        QORM_TYPE_##type, kind)
 
 #define QORM_DET_ARGUMENTS(PART, access, T, kind) \
     PART##_##kind##_##access(const T, Src, src), PART##_widthHeight_m, PART##_rowsBuffer(T), \

@@ -11,7 +11,7 @@
     QORM_FUNCTION_##kind##_##layout(name, \
                                     (qorm::measures::formOfInvert<qorm::Kind::kind>( \
                                         sizeof(QORM_TYPE_##type), qorm::Layout::layout)), \
-                                    (qorm::measures::inverses<qorm::Kind::kind>), \
+                                    QORM_ON_OBJECTS(qorm::measures::inverses<qorm::Kind::kind>), \
                                     QORM_INVERT_ARGUMENTS, QORM_TYPE_##type, kind)
 
 #define QORM_INVERT_ARGUMENTS(PART, access, T, kind) \

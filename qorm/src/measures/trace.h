@@ -66,7 +66,7 @@ qorStatus traces(const Src& src, Size size, const Plain<T>& dst, Count countOf =
             constexpr std::ptrdiff_t lanes = laneCount<Pack<T>>;
             // To find where the objects lie is to go through all of the table.
             if (count >= std::max<std::ptrdiff_t>(lanes, n) && src.hasObjectsSideBySide() &&
-                areSurelyApart(spansOf(src, n, n), spansOf(dst), count)) {
+                areApart(spansOf(src, n, n), spansOf(dst), count)) {
                 tracesOfBlocks<Pack<T>>(src, dst, 0, count / lanes, n);
                 done = count / lanes * lanes;
             }

@@ -38,7 +38,8 @@ struct Copying {
     template <class Src, class Dst>
     qorStatus operator()(const Src& src, const Dst& dst, Size width, Size height,
                          Count count) const {
-        moveObjects<Reading::asStored>(src, dst, {height.value, width.value}, count.value);
+        moveObjects<Reading::asStored>(asObjects(src), asObjects(dst), {height.value, width.value},
+                                       count.value);
         return qorStatusOk;
     }
     template <class Src, class Dst>

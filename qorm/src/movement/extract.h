@@ -47,7 +47,7 @@ struct Extracting {
         constexpr auto reading = isTransposed(kind) ? Reading::transposed : Reading::asStored;
         constexpr auto order =
             isByPositions<Src> && isArray(kind) ? Order::positions : Order::resultRows;
-        moveObjects<reading>(src, dst, {height.value, width.value}, count.value, order);
+        moveObjects<reading>(asObjects(src), dst, {height.value, width.value}, count.value, order);
         return qorStatusOk;
     }
     template <class Src, class T>

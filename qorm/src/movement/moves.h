@@ -28,12 +28,10 @@ bool movePositions(const Src& src, const Dst& dst, const Extent& result, std::pt
 }
 
 // work(rows, columns) of the result, with constants for vectors of 3 to 6 elements, such squares and
-// those of 8, where loads or stores are fast enough to gain by them.
+// those of 8.
 template <class Src, class Dst, class Work>
 void withKnownExtent(const Extent& result, const Work& work) {
-    if constexpr (Src::layout == Layout::L || Dst::layout == Layout::L) {
-        work(result.rows, result.columns);
-    } else if constexpr (holdsVectors<Src> || holdsVectors<Dst>) {
+    if constexpr (holdsVectors<Src> || holdsVectors<Dst>) {
         withStaticSize(result.columns, [&](auto columns) { work(Fixed<1>(), columns); });
     } else {
         const bool isEight = result.columns == 8 && result.rows == 8;
@@ -98,8 +96,8 @@ bool moveInBlocks(const Src& src, const Dst& dst, const Extent& result, std::ptr
     if (2 * count < lanes || !hasDistinctElements(dst, result.rows, result.columns, lanes))
         return false;
     const auto guard = readAheadOf(Sharing::none, src, stored, dst, result, count, lanes);
-    const bool apart = areSurelyApart(spansOf(src, stored.rows, stored.columns),
-                                      spansOf(dst, result.rows, result.columns), count);
+    const bool apart = areApart(spansOf(src, stored.rows, stored.columns),
+                                spansOf(dst, result.rows, result.columns), count);
     if (!apart && order == Order::positions) return false;
     withKnownExtent<Src, Dst>(result, [&](auto rows, auto columns) {
         inManyLanes<V>(apart, guard, count,
@@ -127,10 +125,9 @@ void moveObjects(const Src& src, const Dst& dst, const Extent& result, std::ptrd
         if (hasDistinctElements(dst, result.rows, result.columns, 1)) {
             const Extent stored =
                 reading == Reading::transposed ? Extent{result.columns, result.rows} : result;
-            if (areSurelyApart(spansOf(src, stored.rows, stored.columns),
-                               spansOf(dst, result.rows, result.columns), count)) {
-                if constexpr (Src::layout == Layout::S && Dst::layout == Layout::S)
-                    return moveRegularRuns<reading>(src, dst, result, count);
+            if (areApart(spansOf(src, stored.rows, stored.columns),
+                         spansOf(dst, result.rows, result.columns), count)) {
+                return moveRegularRuns<reading>(src, dst, result, count);
             }
             return moveObjectRuns<reading>(src, dst, result, count);
         }

@@ -77,11 +77,12 @@ template <class T, int n, int objects>
         }
         return wanted;
     };
-    forEachConstant<(elements + lanes - 1) / lanes>([&](auto which) __attribute__((always_inline)) {
-        constexpr int begin = which * lanes;
-        storeRun<std::min(lanes, elements - begin)>(
-            to + begin, gatherElements<T, wantedIn(which), elements>(from));
-    });
+    forEachConstant(
+        upTo<(elements + lanes - 1) / lanes>, [&](auto which) __attribute__((always_inline)) {
+            constexpr int begin = which * lanes;
+            storeRun<std::min(lanes, elements - begin)>(
+                to + begin, gatherElements<T, wantedIn(which), elements>(from));
+        });
 }
 
 // Gap-free objects of at most two registers, by a table of lanes that is made at run time.
@@ -157,8 +158,8 @@ template <class T, class N>
         if constexpr (isTransposedByGathering<T, n>) {
             if (adjacentRows) return transposePacked<T, n, 1>(from.base, to.base);
         }
-        forEachConstant<n>([&](auto i) {
-            forEachConstant<n>([&](auto j) { moveElement(from(j, i), to(i, j)); });
+        forEachConstant(upTo<n>, [&](auto i) {
+            forEachConstant(upTo<n>, [&](auto j) { moveElement(from(j, i), to(i, j)); });
         });
     } else if (adjacentRows && small) {
         (*small)(from.base, to.base);

@@ -8,7 +8,8 @@
 #define QORM_TRANSPOSE(name, kind, type, layout) \
     QORM_FUNCTION_##kind##_##layout( \
         name, qorm::movement::formOfTranspose(sizeof(QORM_TYPE_##type), qorm::Layout::layout), \
-        qorm::movement::transpose, QORM_TRANSPOSE_ARGUMENTS, QORM_TYPE_##type, kind)
+        QORM_ON_OBJECTS(qorm::movement::transpose), QORM_TRANSPOSE_ARGUMENTS, QORM_TYPE_##type, \
+        kind)
 
 #define QORM_TRANSPOSE_ARGUMENTS(PART, access, T, kind) \
     PART##_##kind##_##access(const T, Src, src), PART##_width_height_m, \

@@ -100,22 +100,46 @@ template <int n, int objects, class A, class B, class D>
 
 template <class N, class A, class B, class D>
 [[gnu::noinline]] void multiplyObjects(const A src1, const B src2, const D dst, const Shape shape,
-                                       N n, std::ptrdiff_t count) {
-    for (std::ptrdiff_t object = 0; object < count; ++object) {
+                                       N n, std::ptrdiff_t begin, std::ptrdiff_t end) {
+    for (std::ptrdiff_t object = begin; object < end; ++object) {
         multiplyObject(src1.object(object), src2.object(object), dst.object(object, shape.columns),
                        shape, n);
     }
+}
+
+// A list may hold an object more than once, and a single operand is read again for each of them. So
+// the objects are looked at one by one.
+template <class N, class A, class B, class D>
+void multiplyListedObjects(const A& src1, const B& src2, const D& dst, const Shape& shape, N n,
+                           std::ptrdiff_t count) {
+    const auto reads1 = spansOf(src1);
+    const auto reads2 = spansOf(src2);
+    const auto writes = spansOf(dst, shape);
+    const bool distinct = hasDistinctElements(dst, shape.rows, shape.columns, 1);
+    const auto isApart = [&](std::ptrdiff_t object) {
+        const Bytes written = writes(object);
+        return distinct && !overlap(reads1(object), written) && !overlap(reads2(object), written);
+    };
+    std::ptrdiff_t done = 0;
+    for (std::ptrdiff_t object = 0; object < count; ++object) {
+        if (isApart(object)) continue;
+        multiplyObjects(src1, src2, dst, shape, n, done, object);
+        multiplyInOrder(src1, src2, dst, shape, object, object + 1);
+        done = object + 1;
+    }
+    multiplyObjects(src1, src2, dst, shape, n, done, count);
 }
 
 template <class A, class B, class D>
 void multiplyStrided(const A& src1, const B& src2, const D& dst, const Shape& shape,
                      std::ptrdiff_t count) {
     using T = typename D::Element;
-    const RegularSpans written = spansOf(dst, shape);
+    const Spans written = spansOf(dst, shape);
     const bool firstIsApart = areApart(spansOf(src1), written, count);
     const bool apart = firstIsApart && areApart(spansOf(src2), written, count) &&
                        hasDistinctElements(dst, shape.rows, shape.columns, 1);
     withProductSize<D>(shape, [&](auto n) {
+        if (dst.isList()) return multiplyListedObjects(src1, src2, dst, shape, n, count);
         if (!apart && !(isHeldWhole<decltype(n)> && B::isArray && firstIsApart)) {
             return multiplyInOrder(src1, src2, dst, shape, 0, count);
         }
@@ -132,35 +156,8 @@ void multiplyStrided(const A& src1, const B& src2, const D& dst, const Shape& sh
                 }
             }
         }
-        multiplyObjects(src1, src2, dst, shape, n, count);
+        multiplyObjects(src1, src2, dst, shape, n, 0, count);
     });
-}
-
-// A list may hold an object more than once, and a single operand is read again for each of them. So
-// the objects are looked at one by one.
-template <class N, class A, class B, class D>
-[[gnu::noinline]] void multiplyListedObjects(const A src1, const B src2, const D dst,
-                                             const Shape shape, N n, std::ptrdiff_t count) {
-    const auto reads1 = spansOf(src1);
-    const auto reads2 = spansOf(src2);
-    const auto writes = spansOf(dst, shape);
-    const bool distinct = hasDistinctElements(dst, shape.rows, shape.columns, 1);
-    for (std::ptrdiff_t object = 0; object < count; ++object) {
-        const Bytes written = writes(object);
-        if (distinct && !overlap(reads1(object), written) && !overlap(reads2(object), written)) {
-            multiplyObject(src1.object(object), src2.object(object),
-                           dst.object(object, shape.columns), shape, n);
-        } else {
-            multiplyInOrder(src1, src2, dst, shape, object, object + 1);
-        }
-    }
-}
-
-template <class A, class B, class D>
-void multiplyListed(const A& src1, const B& src2, const D& dst, const Shape& shape,
-                    std::ptrdiff_t count) {
-    withProductSize<D>(shape,
-                       [&](auto n) { multiplyListedObjects(src1, src2, dst, shape, n, count); });
 }
 
 // Whether nothing that is read at some position lies where the objects of another are written.
@@ -209,10 +206,10 @@ void multiplyPointed(const A& src1, const B& src2, const D& dst, const Shape& sh
                      std::ptrdiff_t count) {
     withProductSize<D>(shape, [&](auto n) {
         if (multiplySideBySide(src1, src2, dst, shape, n, count)) return;
-        const RegularSpans written = spansOf(dst, shape);
+        const Spans written = spansOf(dst, shape);
         if (areApart(spansOf(src1), written, count) && areApart(spansOf(src2), written, count) &&
             hasDistinctElements(dst, shape.rows, shape.columns, 1)) {
-            multiplyObjects(src1, src2, dst, shape, n, count);
+            multiplyObjects(src1, src2, dst, shape, n, 0, count);
         } else {
             multiplyInOrder(src1, src2, dst, shape, 0, count);
         }

@@ -39,9 +39,9 @@ public:
         V terms[registers][n];
 
         explicit Terms(const T* operand) {
-            forEachConstant<registers>([&](auto which) {
-                forEachConstant<n>(
-                    [&](auto k) { terms[which][k] = term<second, which, k>(operand); });
+            forEachConstant(upTo<registers>, [&](auto which) {
+                forEachConstant(upTo<n>,
+                                [&](auto k) { terms[which][k] = term<second, which, k>(operand); });
             });
         }
         const V& operator()(int which, int k) const { return terms[which][k]; }
@@ -51,8 +51,8 @@ public:
     template <class A, class B>
     [[gnu::always_inline]] static void multiply(const A& a, const B& b, T* dst) {
         V sums[registers];
-        forEachConstant<registers>([&](auto which) {
-            forEachConstant<n>([&](auto k) {
+        forEachConstant(upTo<registers>, [&](auto which) {
+            forEachConstant(upTo<n>, [&](auto k) {
                 const V product = a(which, k) * b(which, k);
                 if constexpr (k > 0)
                     sums[which] = sums[which] + product;

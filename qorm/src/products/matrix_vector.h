@@ -317,8 +317,8 @@ template <class S>
 bool areSourcesApart(const S& s, std::ptrdiff_t count) {
     constexpr int lanes = laneCount<Pack<typename S::T>>;
     const auto isApart = [&](const auto& operand, Extent extent) {
-        return areSurelyApart(spansOf(operand, extent.rows, extent.columns),
-                              spansOf(s.dst, 1, s.rows()), count);
+        return areApart(spansOf(operand, extent.rows, extent.columns), spansOf(s.dst, 1, s.rows()),
+                        count);
     };
     const bool addendIsApart = [&] {
         if constexpr (isAdded<decltype(s.addend)>)

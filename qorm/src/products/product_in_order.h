@@ -79,17 +79,19 @@ void multiplySquaresInOrder(const A& src1, const B& src2, const D& dst, std::ptr
                             std::ptrdiff_t dstColumns, std::ptrdiff_t firstObject,
                             std::ptrdiff_t endObject) {
     constexpr bool single = !A::isArray && !B::isArray;
-    constexpr bool callsSingle = D::layout == Layout::L || (D::layout == Layout::S && single);
     constexpr bool asStored = !isTransposed(A::kind) && !isTransposed(B::kind);
-    constexpr Access usual =
-        B::isArray || D::layout == Layout::L ? Access::heldPerObject : Access::heldOnce;
-    if constexpr (callsSingle && asStored && !D::hasContiguousRows) {
-        if (n != 3 || sizeof(typename D::Element) != 4) {
-            return multiplySquaresInOrder<Access::asUsed>(src1, src2, dst, n, dstColumns,
-                                                          firstObject, endObject);
-        }
+    const auto multiply = [&]<Access access>(std::integral_constant<Access, access>) {
+        multiplySquaresInOrder<access>(src1, src2, dst, n, dstColumns, firstObject, endObject);
+    };
+    if constexpr (D::layout != Layout::P && asStored && !D::hasContiguousRows) {
+        const bool callsSingle = single || dst.isList();
+        if (callsSingle && (n != 3 || sizeof(typename D::Element) != 4))
+            return multiply(std::integral_constant<Access, Access::asUsed>());
     }
-    multiplySquaresInOrder<usual>(src1, src2, dst, n, dstColumns, firstObject, endObject);
+    if constexpr (!B::isArray) {
+        if (!dst.isList()) return multiply(std::integral_constant<Access, Access::heldOnce>());
+    }
+    multiply(std::integral_constant<Access, Access::heldPerObject>());
 }
 
 // Other sizes: sums begin with +0, and the destination holds them as they grow.

@@ -10,8 +10,8 @@
     QORM_FUNCTION_##result##_##layout( \
         name, \
         (qorm::products::formOf<qorm::Kind::first, qorm::Kind::second>(qorm::Layout::layout)), \
-        (qorm::products::run<qorm::Kind::first, qorm::Kind::second>), QORM_PRODUCT_ARGUMENTS, \
-        QORM_TYPE_##type, first, second, result)
+        QORM_ON_OBJECTS(qorm::products::run<qorm::Kind::first, qorm::Kind::second>), \
+        QORM_PRODUCT_ARGUMENTS, QORM_TYPE_##type, first, second, result)
 
 #define QORM_PRODUCT_ARGUMENTS(PART, access, T, first, second, result) \
     PART##_##first##_##access(const T, Src1, src1), PART##_width_height_1, \
@@ -76,12 +76,10 @@ qorStatus run(const A& src1, Size width1, Size height1, const B& src2, Size widt
             return qorStatusOk;
         }
     }
-    if constexpr (D::layout == Layout::S)
-        multiplyStrided(a, b, dst, shape, count);
-    else if constexpr (D::layout == Layout::P)
+    if constexpr (D::layout == Layout::P)
         multiplyPointed(a, b, dst, shape, count);
     else
-        multiplyListed(a, b, dst, shape, count);
+        multiplyStrided(a, b, dst, shape, count);
     return qorStatusOk;
 }
 

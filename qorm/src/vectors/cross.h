@@ -103,7 +103,7 @@ qorStatus multiplyVectors(const A& src1, const B& src2, const D& dst, std::ptrdi
         return readAheadOf(Sharing::any, operand, {1, 3}, dst, {1, 3}, count, lanes);
     };
     const auto isApart = [&](const auto& operand) {
-        return areSurelyApart(spansOf(operand, 1, 3), spansOf(dst, 1, 3), count);
+        return areApart(spansOf(operand, 1, 3), spansOf(dst, 1, 3), count);
     };
     const bool apart = isApart(src1) && isApart(src2) && hasDistinctElements(dst, 1, 3, lanes);
     return inManyLanes<Pack<T>>(apart, AllOf(guardOf(src1), guardOf(src2)), count, multiply);
@@ -138,10 +138,12 @@ struct PackedProducts {
     [[gnu::always_inline]] static Factors factorsOf(const T* vectors) {
         constexpr int all = array ? registers * lanes : 3;
         Factors factors;
-        forEachConstant<registers>([&](auto which) __attribute__((always_inline)) {
-            factors.next[which] = gatherElements<T, wantedIn(which, 1, array), all>(vectors);
-            factors.afterNext[which] = gatherElements<T, wantedIn(which, 2, array), all>(vectors);
-        });
+        forEachConstant(
+            upTo<registers>, [&](auto which) __attribute__((always_inline)) {
+                factors.next[which] = gatherElements<T, wantedIn(which, 1, array), all>(vectors);
+                factors.afterNext[which] =
+                    gatherElements<T, wantedIn(which, 2, array), all>(vectors);
+            });
         return factors;
     }
 
@@ -161,10 +163,11 @@ struct PackedProducts {
         for (std::ptrdiff_t block = 0; block < blocks; ++block) {
             const Factors x = a(block);
             const Factors y = b(block);
-            forEachConstant<registers>([&](auto r) __attribute__((always_inline)) {
-                storeRun(dst + block * elements + r * lanes,
-                         x.next[r] * y.afterNext[r] - x.afterNext[r] * y.next[r]);
-            });
+            forEachConstant(
+                upTo<registers>, [&](auto r) __attribute__((always_inline)) {
+                    storeRun(dst + block * elements + r * lanes,
+                             x.next[r] * y.afterNext[r] - x.afterNext[r] * y.next[r]);
+                });
         }
     }
 };
@@ -176,7 +179,7 @@ std::ptrdiff_t multiplyPacked(const A& src1, const B& src2, const D& dst, std::p
         using Products = PackedProducts<typename D::Element>;
         const auto isPackedApart = [&](const auto& src) {
             return (!src.holdsArray || src.hasAdjacentObjects(3)) &&
-                   areSurelyApart(spansOf(src, 1, 3), spansOf(dst, 1, 3), count);
+                   areApart(spansOf(src, 1, 3), spansOf(dst, 1, 3), count);
         };
         if (!dst.hasAdjacentObjects(3) || !isPackedApart(src1) || !isPackedApart(src2)) return 0;
         const std::ptrdiff_t blocks = count / Products::lanes;

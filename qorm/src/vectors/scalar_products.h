@@ -120,8 +120,7 @@ qorStatus productsInLanes(const A& a, const B& b, const Plain<T>& dst, std::ptrd
         return guard;
     };
     const auto isApart = [&](const auto& vectors) {
-        return canLeaveOut(vectors, len) &&
-               areSurelyApart(spansOf(vectors, 1, len), spansOf(dst), count);
+        return canLeaveOut(vectors, len) && areApart(spansOf(vectors, 1, len), spansOf(dst), count);
     };
     const auto runGuarded = [&](const auto&... vectors) {
         if ((costOfLanes(vectors, 1, len) + ...) >= leastForScalars)
