@@ -104,8 +104,9 @@ template <Variant variant, class T, class Src, class Vectors>
 
 // Objects first .. first + live - 1 in lanes. Nothing is written if one of them fails.
 template <Variant variant, class V, class T, class N, class Src, class Vectors>
-qorStatus solveLanes(const Src& src, const Vectors& dstVectors, const Plain<T>& dstValues,
-                     std::ptrdiff_t first, int live, N n) {
+[[gnu::noinline]] qorStatus solveLanes(const Src& src, const Vectors& dstVectors,
+                                       const Plain<T>& dstValues, std::ptrdiff_t first, int live,
+                                       N n) {
     constexpr std::ptrdiff_t capacity = largestSize<N>;
     V workBlock[capacity * capacity];
     V valueBlock[capacity];

@@ -650,9 +650,10 @@ template <class T, class Work>
 
 // All objects in blocks of a pack's lanes, by work.operator()<V>(first, live), which returns a status
 // and writes nothing if it fails. A block that fails, or that may not be read ahead, is done again
-// object by object, which ends at the right one.
+// object by object, which ends at the right one. Blocks are compiled into the loop, where their operands
+// stay in registers.
 template <class V, class Guard, class Work>
-qorStatus inLanes(const Guard& guard, std::ptrdiff_t count, const Work& work) {
+QORM_KERNEL qorStatus inLanes(const Guard& guard, std::ptrdiff_t count, const Work work) {
     constexpr std::ptrdiff_t lanes = laneCount<V>;
     for (std::ptrdiff_t first = 0; first < count; first += lanes) {
         const int live = static_cast<int>(std::min(lanes, count - first));
