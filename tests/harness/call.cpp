@@ -63,9 +63,8 @@ std::vector<std::ptrdiff_t> arrange(const std::vector<Operand*>& operands,
         if (operand.parameter.name == placement.destinationOn) source = &operand;
         offsets.push_back(placement.sharing == Placement::interleavedElements
                               ? k * operand.elementSize
-                          : placement.sharing == Placement::interleavedObjects ? structure
-                                                                               : 0);
-        structure += operand.stride0;
+                              : structure);
+        if (placement.sharing == Placement::interleavedObjects) structure += operand.stride0;
     }
     if (placement.sharing == Placement::interleavedObjects) {
         for (Operand* operand : operands) operand->stride0 = structure;
