@@ -319,8 +319,12 @@ struct Packed : Group {
     std::ptrdiff_t stride0;
     std::ptrdiff_t stride1;
 
+    // Sizes may still be faulty, and anything.
     Packed(T* p, std::ptrdiff_t rows, std::ptrdiff_t columns)
-        : base(p), stride0(rows * columns * stride2), stride1(columns * stride2) {}
+        : base(p),
+          stride0(static_cast<std::ptrdiff_t>(static_cast<std::size_t>(rows) *
+                                              static_cast<std::size_t>(columns) * sizeof(T))),
+          stride1(columns * stride2) {}
 
     bool isNull() const { return base == nullptr; }
     bool hasAdjacentRows(std::ptrdiff_t /*columns*/) const { return true; }
