@@ -5,6 +5,7 @@
 // objects, rows and columns; only disjoint operands are taken in another order.
 #pragma once
 
+#include "frame/held_rows.h"
 #include "frame/overlap.h"
 #include "frame/static_size.h"
 
@@ -23,6 +24,7 @@ template <Kind kindInShape, class Operand>
 struct Source {
     using Element = typename Operand::Element;
     static constexpr Kind kind = kindInShape;
+    static constexpr bool hasContiguousRows = Operand::hasContiguousRows;
 
     Operand operand;
 
@@ -38,9 +40,9 @@ Source<kind, Operand> sourceOf(const Operand& operand) {
 
 template <class Op, class D, class... Sources, class Width, class Height>
 [[gnu::always_inline]] inline void combineObjects(const Op& op, const D& dst, Width width,
-                                                  Height height, std::ptrdiff_t count,
-                                                  const Sources&... sources) {
-    for (std::ptrdiff_t n = 0; n < count; ++n) {
+                                                  Height height, std::ptrdiff_t first,
+                                                  std::ptrdiff_t end, const Sources&... sources) {
+    for (std::ptrdiff_t n = first; n < end; ++n) {
         const auto d = dst.object(n, width);
         const auto combineInto = [&](const auto&... source) __attribute__((always_inline)) {
             for (std::ptrdiff_t i = 0; i < height; ++i) {
@@ -48,6 +50,44 @@ template <class Op, class D, class... Sources, class Width, class Height>
             }
         };
         combineInto(sources.object(n, width, height)...);
+    }
+}
+
+// Rows of contiguous elements that are apart from all they are made of, register by register.
+template <int length, class Op, class T, class... Elements>
+[[gnu::always_inline]] inline void combineRow(const Op& op, T* to, const Elements*... from) {
+    constexpr int most = laneCount<Pack<T>>;
+    forEachConstant(
+        upTo<(length + most - 1) / most>, [&](auto chunk) __attribute__((always_inline)) {
+            constexpr int begin = chunk * most;
+            constexpr int live = std::min(most, length - begin);
+            constexpr int lanes = lanesFor(live);
+            storeVector<T, lanes, live>(op(loadVector<T, lanes, live>(from + begin)...),
+                                        to + begin);
+        });
+}
+
+// Objects of constant size in registers, where the destination is apart from all sources.
+template <class Op, class D, class Width, class Height, class... Sources>
+QORM_KERNEL void combineRows(const Op op, const D dst, Width width, Height height,
+                             std::ptrdiff_t first, std::ptrdiff_t end, const Sources... sources) {
+    using T = typename D::Element;
+    constexpr bool asStored = !(isTransposed(Sources::kind) || ...);
+    for (std::ptrdiff_t n = first; n < end; ++n) {
+        const auto d = dst.object(n, width);
+        const auto combineInto = [&](const auto&... source) __attribute__((always_inline)) {
+            for (std::ptrdiff_t i = 0; i < height; ++i) {
+                T* const row = d(i, 0).address();
+                if constexpr (asStored)
+                    combineRow<width>(op, row, source(i, 0).address()...);
+                else
+                    storeVector<T, lanesFor(width), width>(op(source.rows[i]...), row);
+            }
+        };
+        if constexpr (asStored)
+            combineInto(sources.object(n, width, height)...);
+        else
+            combineInto(HeldRows<T, width>(sources.object(n, width, height))...);
     }
 }
 
@@ -59,7 +99,7 @@ template <class Op, class D, class Width, class Height, class... Sources>
                                     typename Sources::Element* __restrict... bases) {
     dst.base = base;
     ((sources.operand.base = bases), ...);
-    combineObjects(op, dst, width, height, count, sources...);
+    combineObjects(op, dst, width, height, 0, count, sources...);
 }
 
 // The elements of one position over all objects; a single source has one for all.
@@ -98,14 +138,31 @@ bool combinePositions(const Op& op, const D& dst, std::ptrdiff_t width, std::ptr
     return true;
 }
 
+template <class S>
+Spans spansOfRead(const S& source, std::ptrdiff_t width, std::ptrdiff_t height) {
+    return isTransposed(S::kind) ? spansOf(source.operand, width, height)
+                                 : spansOf(source.operand, height, width);
+}
+
 // Whether no element of a source lies where the destination is written.
 template <class S, class D>
 bool isApart(const S& source, const D& dst, std::ptrdiff_t width, std::ptrdiff_t height,
              std::ptrdiff_t count) {
-    const Spans read = isTransposed(S::kind) ? spansOf(source.operand, width, height)
-                                             : spansOf(source.operand, height, width);
-    return areApart(read, spansOf(dst, height, width), count);
+    return areApart(spansOfRead(source, width, height), spansOf(dst, height, width), count);
 }
+
+// Whether objects of a list go through registers: of constant size, by rows that are loaded whole or by
+// masks.
+template <class D, class Width, class Height, class... Sources>
+inline constexpr bool goInRegisters = false;
+template <class D, std::ptrdiff_t width, std::ptrdiff_t height, class... Sources>
+inline constexpr bool goInRegisters<D, Fixed<width>, Fixed<height>, Sources...> = [] {
+    using T = typename D::Element;
+    constexpr bool isListOfRows =
+        D::layout == Layout::L && D::hasContiguousRows && (Sources::hasContiguousRows && ...);
+    constexpr bool asStored = !(isTransposed(Sources::kind) || ...);
+    return isListOfRows && (asStored ? hasGathering : rowsFitRegisters<T, width>);
+}();
 
 template <class Op, class D, class Width, class Height, class... Sources>
 void combineStrided(const Op& op, const D& dst, Width width, Height height, bool apart,
@@ -115,8 +172,17 @@ void combineStrided(const Op& op, const D& dst, Width width, Height height, bool
             return combineApart<Op, D, Width, Height, Sources...>(
                 op, dst, dst.base, width, height, count, sources..., sources.operand.base...);
         }
+    } else if constexpr (goInRegisters<D, Width, Height, Sources...>) {
+        const auto combineStretch = [&](std::ptrdiff_t first, std::ptrdiff_t end, bool areApart) {
+            if (areApart)
+                combineRows(op, dst, width, height, first, end, sources...);
+            else
+                combineObjects(op, dst, width, height, first, end, sources...);
+        };
+        return inStretches(spansOf(dst, height, width), count, combineStretch,
+                           spansOfRead(sources, width, height)...);
     }
-    combineObjects(op, dst, width, height, count, sources...);
+    combineObjects(op, dst, width, height, 0, count, sources...);
 }
 
 // work(width, height) with constants for the squares of 3 to 6, and for vectors of 3 to 6.
@@ -146,7 +212,7 @@ qorStatus combine(const Op& op, const D& dst, std::ptrdiff_t width, Height heigh
             !all([](auto& operand) { return operand.hasObjectsSideBySide(); }) ||
             !combinePositions(op, dst, width, height, count, sources...)) {
             withKnownExtent(width, height, [&](auto columns, auto rows) {
-                combineObjects(op, dst, columns, rows, count, sources...);
+                combineObjects(op, dst, columns, rows, 0, count, sources...);
             });
         }
     } else {

@@ -56,7 +56,7 @@ constexpr Form<VectorMeasure> formOfLComb(Kind first, Kind second, std::size_t e
 template <Kind first, Kind second, class A, class T, class B, class D>
 qorStatus runSaxpy(const A& src1, const Constant<T>& alpha, const B& src2, const D& dst, Size len,
                    Count count = Count(1)) {
-    const auto op = [factor = alpha.value](T a, T b) { return a * factor + b; };
+    const auto op = [factor = alpha.value](auto a, auto b) { return a * factor + b; };
     return elementwise::combineVectors<true>(op, dst, len, count,
                                              elementwise::sourceOf<first>(src1),
                                              elementwise::sourceOf<second>(src2));
@@ -65,7 +65,7 @@ qorStatus runSaxpy(const A& src1, const Constant<T>& alpha, const B& src2, const
 template <Kind first, Kind second, class A, class T, class B, class D>
 qorStatus runLComb(const A& src1, const Constant<T>& alpha, const B& src2, const Constant<T>& beta,
                    const D& dst, Size len, Count count = Count(1)) {
-    const auto op = [factor1 = alpha.value, factor2 = beta.value](T a, T b) {
+    const auto op = [factor1 = alpha.value, factor2 = beta.value](auto a, auto b) {
         return a * factor1 + b * factor2;
     };
     return elementwise::combineVectors<true>(op, dst, len, count,

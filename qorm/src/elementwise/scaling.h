@@ -54,7 +54,7 @@ constexpr Form<elementwise::VectorMeasure> formOfVectors(Kind kind, Layout layou
 
 template <class T>
 auto timesConstant(const Constant<T>& constant) {
-    return [c = constant.value](T a) { return a * c; };
+    return [c = constant.value](auto a) { return a * c; };
 }
 
 template <Kind kind, class A, class T, class D>

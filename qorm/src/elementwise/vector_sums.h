@@ -4,6 +4,8 @@
 
 #include "elementwise/vectors.h"
 
+#include <functional>
+
 // name, Add or Sub, the operands' kinds, the destination's kind, type, layout
 #define QORM_VECTOR_SUM(name, sign, first, second, result, type, layout) \
     QORM_FUNCTION_##result##_##layout( \
@@ -33,34 +35,24 @@
 
 namespace qorm::sums {
 
-struct AddValues {
-    template <class T>
-    static T of(T a, T b) {
-        return a + b;
-    }
-};
-struct SubValues {
-    template <class T>
-    static T of(T a, T b) {
-        return a - b;
-    }
-};
+using AddValues = std::plus<>;
+using SubValues = std::minus<>;
 
 struct AddConstant {
-    template <class T>
-    static T of(T a, T constant) {
+    template <class V, class T>
+    static auto of(V a, T constant) {
         return a + constant;
     }
 };
 struct SubConstant {
-    template <class T>
-    static T of(T a, T constant) {
+    template <class V, class T>
+    static auto of(V a, T constant) {
         return a - constant;
     }
 };
 struct SubFromConstant {
-    template <class T>
-    static T of(T a, T constant) {
+    template <class V, class T>
+    static auto of(V a, T constant) {
         return constant - a;
     }
 };
@@ -117,9 +109,7 @@ inline constexpr bool holdsSingle = D::layout == Layout::S &&
 
 template <class Sign, Kind first, Kind second, class A, class B, class D>
 qorStatus runVectors(const A& src1, const B& src2, const D& dst, Size len, Count count = Count(1)) {
-    using T = typename D::Element;
-    const auto op = [](T a, T b) { return Sign::of(a, b); };
-    return elementwise::combineVectors<holdsSingle<first, D>>(op, dst, len, count,
+    return elementwise::combineVectors<holdsSingle<first, D>>(Sign(), dst, len, count,
                                                               elementwise::sourceOf<first>(src1),
                                                               elementwise::sourceOf<second>(src2));
 }
@@ -127,7 +117,7 @@ qorStatus runVectors(const A& src1, const B& src2, const D& dst, Size len, Count
 template <class Operation, Kind kind, class A, class T, class D>
 qorStatus runWithConstant(const A& src, const Constant<T>& constant, const D& dst, Size len,
                           Count count = Count(1)) {
-    const auto op = [c = constant.value](T a) { return Operation::of(a, c); };
+    const auto op = [c = constant.value](auto a) { return Operation::of(a, c); };
     return elementwise::combine(op, dst, len.value, Fixed<1>(), count.value,
                                 elementwise::sourceOf<kind>(src));
 }

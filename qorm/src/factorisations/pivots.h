@@ -60,6 +60,18 @@ inline void fromIntegers(const Pack<float>& bits, Pack<double, 2>& numbers) {
     }
 }
 
+// The lanes of a pack, one after the other.
+template <Scalar T, int registers>
+void convertLanes(const Pack<T, registers>& numbers, std::int32_t* integers) {
+    constexpr int lanes = laneCount<Pack<T>>;
+    typedef std::int32_t Integers __attribute__((vector_size(lanes * sizeof(std::int32_t))));
+    for (const Register<T> lane : numbers.lanes) {
+        const Integers converted = __builtin_convertvector(lane, Integers);
+        std::memcpy(integers, &converted, sizeof converted);
+        integers += lanes;
+    }
+}
+
 template <class V, class N>
 inline constexpr bool areMovedAsBits = isFixed<N>&& registersOfIntegers<V> != 0;
 
@@ -89,7 +101,12 @@ void storePivots(const Plain<std::int32_t>& pivots, std::ptrdiff_t first, int li
             return;
         }
     }
-    storeLanes(pivots, first, live, n, PackRun<V>{numbers});
+    std::int32_t rows[largestSize<N>][laneCount<V>];
+    for (std::ptrdiff_t k = 0; k < n; ++k) convertLanes(numbers[k], rows[k]);
+    for (int lane = 0; lane < live; ++lane) {
+        const Run<std::int32_t> index = pivots.object(first + lane);
+        for (std::ptrdiff_t k = 0; k < n; ++k) index(k) = std::int32_t{rows[k][lane]};
+    }
 }
 
 } // namespace qorm::factorisations

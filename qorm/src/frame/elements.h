@@ -85,6 +85,15 @@ struct Transposed {
 template <class Matrix>
 Transposed(Matrix) -> Transposed<Matrix>;
 
+template <class Matrix>
+Transposed<Matrix> transposed(const Matrix& matrix) {
+    return {matrix};
+}
+template <class Matrix>
+Matrix transposed(const Transposed<Matrix>& matrix) {
+    return matrix.matrix;
+}
+
 // A vector: a matrix of one row.
 template <class Matrix>
 struct OnlyRow {

@@ -157,7 +157,10 @@ template <Scalar T, class RunOf, class At>
                 chunk[lane] = (live == lanes ? loadRun(begin) : loadRun(begin, live)).lanes[0];
             });
         transposeRegisters(chunk);
-        for (int i = 0; i < live; ++i) at(from + i) = chunk[i];
+        forEachConstant(
+            upTo<lanes>, [&](auto i) __attribute__((always_inline)) {
+                if (i < live) at(from + i) = chunk[i];
+            });
     }
 }
 
@@ -277,11 +280,11 @@ template <int lanes, class Operand>
     return addresses;
 }
 
-// Whether the objects of all live lanes lie apart, so that the order in which they are written does
-// not show. Without branches: how the addresses of a list follow each other can't be predicted.
+// Whether so many objects of a list lie apart. Without branches: how their addresses follow each other
+// can't be predicted.
 template <class T, std::size_t lanes>
-[[gnu::noinline]] bool lieApart(const std::array<T*, lanes>& objects, int live,
-                                std::ptrdiff_t bytes) {
+[[gnu::noinline]] bool areListedApart(const std::array<T*, lanes>& objects, int live,
+                                      std::ptrdiff_t bytes) {
     const auto addressOf = [&](std::size_t k) {
         return reinterpret_cast<std::uintptr_t>(objects[k]);
     };
@@ -294,6 +297,14 @@ template <class T, std::size_t lanes>
         }
     }
     return !overlaps;
+}
+
+// Whether the objects of all live lanes lie apart, so that the order in which they are written does
+// not show.
+template <class Operand, class T, std::size_t lanes>
+bool lieApart(const Operand& operand, const std::array<T*, lanes>& objects, int live,
+              std::ptrdiff_t bytes) {
+    return operand.isList() ? areListedApart(objects, live, bytes) : operand.stride0 >= bytes;
 }
 
 // Element (i, j) of the part to its place in a block of such a size, or from there.
@@ -433,8 +444,11 @@ template <Part part, class V, class Operand, class Rows, class Columns, class M>
     }
     const std::array<T*, lanes> objects = addressesOf<lanes>(operand, first, live);
     const std::ptrdiff_t stride1 = operand.stride1;
-    if (!isFixedSize &&
-        !lieApart(objects, live, spanOfMatrix<T>(stride1, sizeof(T), rows, columns))) {
+    // What fits a register is stored object by object anyway.
+    const bool areWhole =
+        part == Part::whole && adjacentRows && rows * columns <= laneCount<Pack<T>>;
+    if (!isFixedSize && !areWhole &&
+        !lieApart(operand, objects, live, spanOfMatrix<T>(stride1, sizeof(T), rows, columns))) {
         return false;
     }
     forEachRegister(
@@ -499,13 +513,16 @@ template <Part part = Part::whole, class V, class Operand, class Rows, class Col
     if constexpr (Operand::hasContiguousRows && lanes > 1) {
         return loadRows<part>(operand, first, live, rows, columns, block);
     }
-    if constexpr (isFixed<Rows> && isFixed<Columns>) {
+    if constexpr (isFixed<Rows> && isFixed<Columns> && lanes > 1) {
         V elements[rows * columns];
         loadElements<part>(operand, first, live, rows, columns,
                            PackMatrix<V, Columns>{elements, columns});
-        forEachOf<part, rows, columns>([&](auto k) __attribute__((always_inline)) {
-            block(k / columns, k % columns) = elements[k];
-        });
+        forEachRegister(
+            elements, [&](auto r, const auto& at) __attribute__((always_inline)) {
+                forEachOf<part, rows, columns>([&](auto k) __attribute__((always_inline)) {
+                    block(k / columns, k % columns).lanes[r] = at(k);
+                });
+            });
     } else {
         loadElements<part>(operand, first, live, rows, columns, block);
     }
@@ -528,11 +545,14 @@ template <Part part = Part::whole, class V, class Operand, class Rows, class Col
     if constexpr (Operand::hasContiguousRows && lanes > 1) {
         if (storeRows<part>(operand, first, live, rows, columns, block)) return;
     }
-    if constexpr (isFixed<Rows> && isFixed<Columns>) {
+    if constexpr (isFixed<Rows> && isFixed<Columns> && lanes > 1) {
         V elements[rows * columns];
-        forEachOf<part, rows, columns>([&](auto k) __attribute__((always_inline)) {
-            elements[k] = block(k / columns, k % columns);
-        });
+        forEachRegister(
+            elements, [&](auto r, const auto& at) __attribute__((always_inline)) {
+                forEachOf<part, rows, columns>([&](auto k) __attribute__((always_inline)) {
+                    at(k) = block(k / columns, k % columns).lanes[r];
+                });
+            });
         storeElements<part>(operand, first, live, rows, columns,
                             PackMatrix<V, Columns>{elements, columns});
     } else {
@@ -585,7 +605,7 @@ void storeLanesInOrder(const Operand& operand, std::ptrdiff_t first, int live, N
     if constexpr (Operand::hasContiguousRows && lanes > 1) {
         const std::array<T*, lanes> objects = addressesOf<lanes>(operand, first, live);
         const std::ptrdiff_t stride1 = operand.stride1;
-        if (lieApart(objects, live, spanOfMatrix<T>(stride1, sizeof(T), n, n))) {
+        if (lieApart(operand, objects, live, spanOfMatrix<T>(stride1, sizeof(T), n, n))) {
             forEachRegister(
                 block.base, [&](int r, const auto& at) __attribute__((always_inline)) {
                     const int begin = r * laneCount<Pack<T>>;
@@ -659,7 +679,7 @@ template <class T, class Work>
 // object by object, which ends at the right one. Blocks are compiled into the loop, where their operands
 // stay in registers.
 template <class V, class Guard, class Work>
-QORM_KERNEL qorStatus inLanes(const Guard& guard, std::ptrdiff_t count, const Work work) {
+QORM_KERNEL qorStatus inLanes(Guard guard, std::ptrdiff_t count, const Work work) {
     constexpr std::ptrdiff_t lanes = laneCount<V>;
     for (std::ptrdiff_t first = 0; first < count; first += lanes) {
         const int live = static_cast<int>(std::min(lanes, count - first));

@@ -30,7 +30,7 @@ qorStatus inScalars(std::ptrdiff_t count, const Work& work) {
 // inLanes() for work that cannot fail. Where operands are apart, all whole blocks are one call of
 // work.template operator()<V>(first, live, blocks); others are single ones.
 template <class V, class Guard, class Work>
-qorStatus inManyLanes(bool apart, const Guard& guard, std::ptrdiff_t count, const Work& work) {
+qorStatus inManyLanes(bool apart, Guard guard, std::ptrdiff_t count, const Work& work) {
     constexpr std::ptrdiff_t lanes = laneCount<V>;
     const std::ptrdiff_t blocks = apart ? count / lanes : 0;
     if (blocks > 0) work.template operator()<V>(0, static_cast<int>(lanes), blocks);

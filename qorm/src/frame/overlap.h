@@ -3,56 +3,13 @@
 #pragma once
 
 #include "frame/operands.h"
+#include "frame/spans.h"
 #include "frame/static_size.h"
 
 #include <algorithm>
-#include <cstdint>
-#include <cstring>
 #include <iterator>
 
 namespace qorm {
-
-// Bytes [begin, end) of memory.
-struct Bytes {
-    std::uintptr_t begin;
-    std::uintptr_t end;
-};
-
-inline bool overlap(Bytes a, Bytes b) {
-    return a.begin < b.end && b.begin < a.end;
-}
-inline Bytes hullOf(Bytes a, Bytes b) {
-    return {std::min(a.begin, b.begin), std::max(a.end, b.end)};
-}
-
-template <class T>
-Bytes bytesOf(const T* base, std::ptrdiff_t bytes) {
-    const auto begin = reinterpret_cast<std::uintptr_t>(base);
-    return {begin, begin + static_cast<std::uintptr_t>(bytes)};
-}
-
-// The bytes that each object of an operand spans.
-struct Spans {
-    Bytes object0; // in a list, of an object at address 0
-    std::ptrdiff_t stride0;
-    const void* table = nullptr; // of addresses, in a list
-
-    bool isList() const { return table != nullptr; }
-
-    Bytes operator()(std::ptrdiff_t n) const {
-        const std::uintptr_t step =
-            isList() ? addressOf(n) : static_cast<std::uintptr_t>(n * stride0);
-        return {object0.begin + step, object0.end + step};
-    }
-
-private:
-    std::uintptr_t addressOf(std::ptrdiff_t n) const {
-        std::uintptr_t address;
-        std::memcpy(&address, static_cast<const char*>(table) + n * std::ptrdiff_t{sizeof address},
-                    sizeof address);
-        return address;
-    }
-};
 
 template <class T, Kind kind, bool contiguousRows>
 Spans spansOf(const Strided<T, kind, contiguousRows>& operand, std::ptrdiff_t rows,
@@ -97,30 +54,6 @@ Spans spansOf(const Plain<T>& runs) {
     return {bytesOf(runs.base, bytes), bytes};
 }
 
-// The bytes that objects first .. first + live - 1 span together.
-inline Bytes spanOfAll(const Spans& spans, std::ptrdiff_t first, int live) {
-    if (!spans.isList()) return hullOf(spans(first), spans(first + live - 1));
-    Bytes all = spans(first);
-    for (int k = 1; k < live; ++k) all = hullOf(all, spans(first + k));
-    return all;
-}
-
-// Whether all objects first .. first + live - 1 may be read before the first of them is written: no
-// object is written over one that stands behind it.
-inline bool mayReadAhead(const Spans& reads, const Spans& writes, std::ptrdiff_t first, int live) {
-    if (!overlap(spanOfAll(reads, first, live), spanOfAll(writes, first, live))) return true;
-    // At equal strides what holds for the first object holds for all.
-    const bool haveEqualStrides =
-        !reads.isList() && !writes.isList() && reads.stride0 == writes.stride0;
-    const int writers = haveEqualStrides ? 1 : live;
-    for (int written = 0; written < writers; ++written) {
-        for (int read = written + 1; read < live; ++read) {
-            if (overlap(reads(first + read), writes(first + written))) return false;
-        }
-    }
-    return true;
-}
-
 // Whether the elements of one object surely lie apart from each other, so that the order in which
 // they are written does not show.
 template <class Operand>
@@ -143,25 +76,6 @@ bool hasDistinctElements(const Pointers<T, array>& operand, std::ptrdiff_t rows,
     return std::adjacent_find(sorted, end, [&](T* lower, T* upper) {
                return stepped(lower, objects * std::ptrdiff_t{sizeof(T)}) > upper;
            }) == end;
-}
-
-// Whether no object of one operand overlaps any object of the other, as far as is known: apart
-// altogether, or fields of one array of structures. Lists are not looked through.
-[[gnu::noinline]] inline bool areApart(const Spans& a, const Spans& b, std::ptrdiff_t count) {
-    if (a.isList() || b.isList()) return false;
-    const int objects = static_cast<int>(count);
-    if (!overlap(spanOfAll(a, 0, objects), spanOfAll(b, 0, objects))) return true;
-    if (a.stride0 != b.stride0 || a.stride0 == 0) return false;
-    const auto structure = static_cast<std::uintptr_t>(a.stride0);
-    const std::uintptr_t sizeOfA = a.object0.end - a.object0.begin;
-    const std::uintptr_t sizeOfB = b.object0.end - b.object0.begin;
-    // From the begin of a to the next begin of an object of b, and from there to the next of a.
-    const bool aIsFirst = a.object0.begin <= b.object0.begin;
-    const std::uintptr_t distance =
-        aIsFirst ? b.object0.begin - a.object0.begin : a.object0.begin - b.object0.begin;
-    const std::uintptr_t fromAtoB =
-        aIsFirst ? distance % structure : (structure - distance % structure) % structure;
-    return sizeOfA <= fromAtoB && fromAtoB + sizeOfB <= structure;
 }
 
 // For matrices whose objects lie side by side, `count` elements a position. From here on `bytes` is
@@ -266,14 +180,6 @@ bool shareOnlyPositions(const Src& src, const Dst& dst, std::ptrdiff_t rows, std
                                    rows, live);
 }
 
-// How the source and the destination of one object may share memory where a kernel reads all of the
-// object before it writes any.
-enum class Sharing {
-    any,    // the contract reads all of it first, too
-    places, // each element is read before its own place is written, and no other is read after that
-    none
-};
-
 // Whether two operands place element (i, j) of an object at the same distance from its begin.
 template <class A, class B>
 bool haveSameSteps(const A& a, const B& b, std::ptrdiff_t elements) {
@@ -284,51 +190,6 @@ bool haveSameSteps(const A& a, const B& b, std::ptrdiff_t elements) {
     else
         return a.stride1 == b.stride1 && a.stride2 == b.stride2;
 }
-
-// Which runs of objects may be read all before the first of them is written.
-class ReadAhead {
-public:
-    ReadAhead(const Spans& read, const Spans& written, std::ptrdiff_t count,
-              Sharing sharingOfObjects = Sharing::any)
-        : reads(read),
-          writes(written),
-          sharing(sharingOfObjects),
-          always(areApart(read, written, count)) {}
-
-    bool allows(std::ptrdiff_t first, int live) const {
-        return always || (!never && mayRead(first, live));
-    }
-
-    void allowAlways() { always = true; }
-    void allowNever() {
-        always = false;
-        never = true;
-    }
-    void sharesPlaces(bool shared) { samePlaces = shared; }
-
-private:
-    [[gnu::noinline]] bool mayRead(std::ptrdiff_t first, int live) const {
-        return mayReadAhead(reads, writes, first, live) && objectsMayShare(first, live);
-    }
-
-    bool objectsMayShare(std::ptrdiff_t first, int live) const {
-        if (sharing == Sharing::any) return true;
-        for (std::ptrdiff_t object = first; object < first + live; ++object) {
-            const Bytes read = reads(object);
-            const Bytes written = writes(object);
-            const bool isInPlace = samePlaces && read.begin == written.begin;
-            if (overlap(read, written) && !isInPlace) return false;
-        }
-        return true;
-    }
-
-    Spans reads;
-    Spans writes;
-    Sharing sharing;
-    bool always;
-    bool never = false;
-    bool samePlaces = false;
-};
 
 struct Extent {
     std::ptrdiff_t rows;
@@ -372,8 +233,8 @@ class AllOf {
 public:
     explicit AllOf(const Guards&... guards) : guards_(guards...) {}
 
-    bool allows(std::ptrdiff_t first, int live) const {
-        return std::apply([&](const auto&... guard) { return (guard.allows(first, live) && ...); },
+    bool allows(std::ptrdiff_t first, int live) {
+        return std::apply([&](auto&... guard) { return (guard.allows(first, live) && ...); },
                           guards_);
     }
 

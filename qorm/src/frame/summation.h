@@ -15,7 +15,7 @@ namespace qorm {
 // begin: p(0), or +0 and then p(0). The first term has to be there.
 template <bool beginsWithTerm, class V, class Term, class N>
 [[gnu::always_inline]] inline V sumOfChain(const Term& p, N terms) {
-    V sum = beginsWithTerm ? p(0) : V(LaneType<V>(0)) + p(0);
+    V sum = beginsWithTerm ? p(0) : V{} + p(0);
     for (std::ptrdiff_t k = 1; k < terms; ++k) sum = sum + p(k);
     return sum;
 }
@@ -23,7 +23,7 @@ template <bool beginsWithTerm, class V, class Term, class N>
 // Four terms in two pairs, the others one at a time.
 template <class V, class Term, class N>
 [[gnu::always_inline]] inline V sumOfPairs(const Term& p, N terms) {
-    const V zero(LaneType<V>(0));
+    const V zero{};
     V sum = ((zero + p(0)) + (zero + p(1))) + ((zero + p(2)) + (zero + p(3)));
     for (std::ptrdiff_t k = 4; k < terms; ++k) sum = sum + p(k);
     return sum;
@@ -66,7 +66,7 @@ T sumOfLanes(const Vector& l) {
 // At least a block of terms, each of them a number or a pack, summed in blocks of 8 lanes.
 template <class V, class Term, class N>
 [[gnu::always_inline]] inline V sumOfBlocksOf8(const Term& p, N terms) {
-    const V zero(LaneType<V>(0));
+    const V zero{};
     V l[8];
     for (int lane = 0; lane < 8; ++lane) l[lane] = zero + p(lane);
     std::ptrdiff_t k = 8;

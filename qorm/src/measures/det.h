@@ -95,7 +95,7 @@ qorStatus determinants(const Src& src, Size size, const Scratch<T>& scratch, con
     }
     return withSmallSize(n, [&](auto fixed) {
         if constexpr (isArray(kind)) {
-            const ReadAhead guard(spansOf(src, n, n), spansOf(dst), count);
+            ReadAhead guard(spansOf(src, n, n), spansOf(dst), count);
             return inLanes<Pack<T>>(guard, count, [&]<class V>(std::ptrdiff_t first, int live) {
                 return determinantsOfBlock<kind, V>(src, dst, first, live, fixed);
             });

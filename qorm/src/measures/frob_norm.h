@@ -165,7 +165,7 @@ qorStatus norms(const Src& src, Size widthOf, Size heightOf, const Plain<T>& dst
     if constexpr (Src::holdsArray) {
         if (std::max(width, height) <= mostLaneSize) {
             const auto spans = spansOf(src, height, width);
-            const ReadAhead guard(spans, spansOf(dst), count);
+            ReadAhead guard(spans, spansOf(dst), count);
             const bool apart = areApart(spans, spansOf(dst), count);
             return withKnownSquare<Src>(width, height, [&](auto columns, auto rows) {
                 return inManyLanes<Pack<T>>(

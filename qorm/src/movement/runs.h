@@ -2,7 +2,7 @@
 // registers. Source and destination of an object are apart.
 #pragma once
 
-#include "frame/gathering.h"
+#include "frame/held_rows.h"
 #include "frame/static_size.h"
 #include "movement/in_order.h"
 
@@ -56,8 +56,8 @@ void withMovedExtent(const Extent& result, const Work& work) {
 
 // Squares of this size in gap-free blocks, whose registers are permuted.
 template <class T, int n>
-inline constexpr bool isTransposedByGathering = hasGathering&& n* n <= 4 * laneCount<Pack<T>> &&
-                                                (n <= 6 || sizeof(T) == 4);
+inline constexpr bool isTransposedByGathering =
+    hasGathering&& n* n <= 4 * laneCount<Pack<T>>&& n <= 6;
 
 // As few objects as fill whole registers.
 template <class T, int n>
@@ -155,12 +155,19 @@ template <class T, class N>
                                                  const std::optional<PermutedTranspose<T>>& small) {
     constexpr std::ptrdiff_t leastForTiles = 8;
     if constexpr (isFixed<N>) {
-        if constexpr (isTransposedByGathering<T, n>) {
+        if constexpr (isTransposedByGathering<T, n> && n * n <= laneCount<Pack<T>>) {
             if (adjacentRows) return transposePacked<T, n, 1>(from.base, to.base);
         }
-        forEachConstant(upTo<n>, [&](auto i) {
-            forEachConstant(upTo<n>, [&](auto j) { moveElement(from(j, i), to(i, j)); });
-        });
+        if constexpr (rowsFitRegisters<T, n>) {
+            const HeldRows<T, n> held(Transposed{from});
+            forEachConstant(upTo<n>, [&](auto i) {
+                storeVector<T, lanesFor(n), n>(held.rows[i], to(i, 0).address());
+            });
+        } else {
+            forEachConstant(upTo<n>, [&](auto i) {
+                forEachConstant(upTo<n>, [&](auto j) { moveElement(from(j, i), to(i, j)); });
+            });
+        }
     } else if (adjacentRows && small) {
         (*small)(from.base, to.base);
     } else if (std::min(result.rows, result.columns) >= leastForTiles) {
@@ -238,13 +245,16 @@ void moveObjectRuns(const Src& src, const Dst& dst, const Extent& result, std::p
     const bool adjacentRows =
         src.hasAdjacentRows(stored.columns) && dst.hasAdjacentRows(result.columns);
     const auto moveAll = [&](const auto& move) {
-        for (std::ptrdiff_t n = 0; n < count; ++n) {
-            const auto to = dst.object(n, result.columns);
-            if (overlap(reads(n), writes(n)))
-                moveObjectInOrder(objectAsRead<reading>(src, n, result), to, result, false);
-            else
-                move(src.object(n, stored.columns), to);
-        }
+        const auto moveStretch = [&](std::ptrdiff_t first, std::ptrdiff_t end, bool apart) {
+            for (std::ptrdiff_t n = first; n < end; ++n) {
+                const auto to = dst.object(n, result.columns);
+                if (apart || !overlap(reads(n), writes(n)))
+                    move(src.object(n, stored.columns), to);
+                else
+                    moveObjectInOrder(objectAsRead<reading>(src, n, result), to, result, false);
+            }
+        };
+        inStretches(writes, count, moveStretch, reads);
     };
     if constexpr (reading == Reading::asStored) {
         withMovedExtent<Src>(result, [&](auto rows, auto columns) {

@@ -85,14 +85,22 @@ bool arePacked(const A& src1, const B& src2, const D& dst, std::ptrdiff_t n) {
            isPacked(dst, std::true_type());
 }
 
-// Squares without gaps that fit a register, from object `first` on.
-template <int n, int objects, class A, class B, class D>
+// Squares without gaps that fit a register, from object `first` on; where they are packed, without gaps
+// between them, in blocks of several.
+template <int n, int objects, bool packed, class A, class B, class D>
 [[gnu::noinline]] void multiplyDensely(const A src1, const B src2, const D dst,
                                        std::ptrdiff_t first, std::ptrdiff_t blocks) {
+    if (blocks == 0) return;
     const auto from = [=](const auto& operand) {
-        return [=](std::ptrdiff_t block) {
-            return operand.object(first + block * objects, n)(0, 0).address();
+        const auto addressOf = [operand](std::ptrdiff_t object) {
+            return operand.object(object, n)(0, 0).address();
         };
+        if constexpr (packed)
+            return [begin = addressOf(first)](std::ptrdiff_t block) {
+                return begin + block * objects * n * n;
+            };
+        else
+            return [=](std::ptrdiff_t block) { return addressOf(first + block); };
     };
     multiplyDenseBlocks<n, objects, A::kind, B::kind>(from(src1.operand), from(src2.operand),
                                                       from(dst), blocks);
@@ -107,56 +115,67 @@ template <class N, class A, class B, class D>
     }
 }
 
+// Objects begin .. end - 1 as densely as they lie. Each is apart from the first operand, and from the
+// second unless that may be held; all of them are apart from both operands if they go in blocks.
+template <class N, class A, class B, class D>
+void multiplyApart(const A& src1, const B& src2, const D& dst, const Shape& shape, N n,
+                   std::ptrdiff_t begin, std::ptrdiff_t end, bool inBlocks) {
+    if constexpr (isFixed<N> && D::hasContiguousRows) {
+        if constexpr (fitsRegister<typename D::Element, n>) {
+            if (haveAdjacentRows(src1, src2, dst, n)) {
+                constexpr int objects = densestBlock<typename D::Element, n>();
+                const bool packed = inBlocks && arePacked(src1, src2, dst, n);
+                const std::ptrdiff_t blocks = packed ? (end - begin) / objects : 0;
+                const std::ptrdiff_t rest = begin + blocks * objects;
+                multiplyDensely<n, objects, true>(src1, src2, dst, begin, blocks);
+                multiplyDensely<n, 1, false>(src1, src2, dst, rest, end - rest);
+                return;
+            }
+        }
+    }
+    multiplyObjects(src1, src2, dst, shape, n, begin, end);
+}
+
 // A list may hold an object more than once, and a single operand is read again for each of them. So
-// the objects are looked at one by one.
+// the objects are looked at one by one, where they don't lie apart all together.
 template <class N, class A, class B, class D>
 void multiplyListedObjects(const A& src1, const B& src2, const D& dst, const Shape& shape, N n,
                            std::ptrdiff_t count) {
-    const auto reads1 = spansOf(src1);
-    const auto reads2 = spansOf(src2);
-    const auto writes = spansOf(dst, shape);
+    const Spans reads1 = spansOf(src1);
+    const Spans reads2 = spansOf(src2);
+    const Spans writes = spansOf(dst, shape);
     const bool distinct = hasDistinctElements(dst, shape.rows, shape.columns, 1);
     const auto isApart = [&](std::ptrdiff_t object) {
         const Bytes written = writes(object);
         return distinct && !overlap(reads1(object), written) && !overlap(reads2(object), written);
     };
-    std::ptrdiff_t done = 0;
-    for (std::ptrdiff_t object = 0; object < count; ++object) {
-        if (isApart(object)) continue;
-        multiplyObjects(src1, src2, dst, shape, n, done, object);
-        multiplyInOrder(src1, src2, dst, shape, object, object + 1);
-        done = object + 1;
-    }
-    multiplyObjects(src1, src2, dst, shape, n, done, count);
+    const auto multiply = [&](std::ptrdiff_t begin, std::ptrdiff_t end, bool apart) {
+        if (distinct && apart) return multiplyApart(src1, src2, dst, shape, n, begin, end, true);
+        std::ptrdiff_t done = begin;
+        for (std::ptrdiff_t object = begin; object < end; ++object) {
+            if (isApart(object)) continue;
+            multiplyApart(src1, src2, dst, shape, n, done, object, false);
+            multiplyInOrder(src1, src2, dst, shape, object, object + 1);
+            done = object + 1;
+        }
+        multiplyApart(src1, src2, dst, shape, n, done, end, false);
+    };
+    inStretches(writes, count, multiply, reads1, reads2);
 }
 
 template <class A, class B, class D>
 void multiplyStrided(const A& src1, const B& src2, const D& dst, const Shape& shape,
                      std::ptrdiff_t count) {
-    using T = typename D::Element;
     const Spans written = spansOf(dst, shape);
     const bool firstIsApart = areApart(spansOf(src1), written, count);
     const bool apart = firstIsApart && areApart(spansOf(src2), written, count) &&
                        hasDistinctElements(dst, shape.rows, shape.columns, 1);
     withProductSize<D>(shape, [&](auto n) {
         if (dst.isList()) return multiplyListedObjects(src1, src2, dst, shape, n, count);
-        if (!apart && !(isHeldWhole<decltype(n)> && B::isArray && firstIsApart)) {
-            return multiplyInOrder(src1, src2, dst, shape, 0, count);
-        }
-        if constexpr (isFixed<decltype(n)> && D::hasContiguousRows) {
-            if constexpr (fitsRegister<T, n>) {
-                if (haveAdjacentRows(src1, src2, dst, n)) {
-                    constexpr int objects = densestBlock<T, n>();
-                    const bool inBlocks = apart && arePacked(src1, src2, dst, n);
-                    const std::ptrdiff_t blocks = inBlocks ? count / objects : 0;
-                    multiplyDensely<n, objects>(src1, src2, dst, 0, blocks);
-                    multiplyDensely<n, 1>(src1, src2, dst, blocks * objects,
-                                          count - blocks * objects);
-                    return;
-                }
-            }
-        }
-        multiplyObjects(src1, src2, dst, shape, n, 0, count);
+        if (apart || (isHeldWhole<decltype(n)> && B::isArray && firstIsApart))
+            multiplyApart(src1, src2, dst, shape, n, 0, count, apart);
+        else
+            multiplyInOrder(src1, src2, dst, shape, 0, count);
     });
 }
 

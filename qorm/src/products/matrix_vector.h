@@ -8,7 +8,8 @@
 #include "frame/entry.h"
 #include "frame/known_sizes.h"
 #include "frame/light_blocks.h"
-#include "frame/summation.h"
+#include "products/columns.h"
+#include "products/product_in_order.h"
 
 // name, the kinds of the matrix, the vector and the destination, type, layout
 #define QORM_MATRIX_VECTOR(name, matrix, vector, result, type, layout) \
@@ -62,33 +63,6 @@ constexpr Form<MatrixVectorMeasure> formOfMatrixVector(Kind matrix, Kind vector,
             .generalThreshold = general,
             .sizesMatch = transposed ? vectorFits<true> : vectorFits<false>};
 }
-
-// How sums are made: from left to right; squares of 4 to 6 with four terms in pairs; others in blocks.
-enum class Sums { chain, pairs, blocks };
-
-// The matrices of a call as the shape's letter reads them. What is added to the products, if anything,
-// is `addend`.
-template <Kind matrixKind, class Matrix, class X, class Addend, class D>
-struct Systems {
-    static constexpr Kind kind = matrixKind;
-    using T = typename D::Element;
-
-    Matrix matrix;
-    Extent stored;
-    X x;
-    Addend addend;
-    D dst;
-
-    std::ptrdiff_t rows() const { return isTransposed(kind) ? stored.columns : stored.rows; }
-    std::ptrdiff_t terms() const { return isTransposed(kind) ? stored.rows : stored.columns; }
-    auto matrixOf(std::ptrdiff_t n) const { return asRead<kind>(matrix.object(n, stored.columns)); }
-};
-
-// In place of an addend.
-struct Nothing {};
-
-template <class Addend>
-inline constexpr bool isAdded = !std::is_same_v<Addend, Nothing>;
 
 // One object, exactly as the contract tells where operands overlap. With an addend all sums are held,
 // and written together.
@@ -212,20 +186,12 @@ void multiplyOneInBlocks(const S& s, std::ptrdiff_t object, bool aligned) {
     }
 }
 
-template <Sums sums, class V, class Term, class N>
-[[gnu::always_inline]] inline V sumInLanes(const Term& p, N terms) {
-    if constexpr (sums == Sums::pairs && largestSize<N> != 3)
-        return sumOfPairs<V>(p, terms);
-    else if constexpr (sums == Sums::blocks)
-        return sumOfBlocksOf8<V>(p, terms);
-    else
-        return sumOfChain<hasOwnPath<N>, V>(p, terms);
-}
-
-// Objects first .. first + live - 1, an object in each lane.
-template <Sums sums, class V, class S, class Rows, class Terms>
-[[gnu::always_inline]] inline void multiplyLanes(const S& s, std::ptrdiff_t first, int live,
-                                                 Rows rows, Terms terms) {
+// Objects first .. first + live - 1, an object in each lane. `single` is the matrix of all of them, if
+// there is but one.
+template <Sums sums, class V, class S, class Single, class Rows, class Terms>
+[[gnu::always_inline]] inline void multiplyLanes(const S& s, const Single& single,
+                                                 std::ptrdiff_t first, int live, Rows rows,
+                                                 Terms terms) {
     using T = typename S::T;
     const auto width = [&] {
         if constexpr (isTransposed(S::kind))
@@ -233,10 +199,9 @@ template <Sums sums, class V, class S, class Rows, class Terms>
         else
             return terms;
     }();
-    constexpr bool matrixIsArray = decltype(s.matrix)::holdsArray;
     using X = std::conditional_t<decltype(s.x)::holdsArray, V, T>;
     Loaded<V, decltype(width)> matrices(width);
-    if constexpr (matrixIsArray) {
+    if constexpr (S::hasMatrices) {
         const auto height = [&] {
             if constexpr (isTransposed(S::kind))
                 return terms;
@@ -246,17 +211,11 @@ template <Sums sums, class V, class S, class Rows, class Terms>
         loadLanes(s.matrix, first, live, height, width, matrices.matrix());
     }
     const auto x = loadVectors<X>(s.x, first, live, terms);
-    const auto a = [&] {
-        if constexpr (matrixIsArray)
-            return asRead<S::kind>(matrices.matrix());
-        else
-            return s.matrixOf(0);
-    }();
     const auto element = [&](std::ptrdiff_t i, std::ptrdiff_t k) __attribute__((always_inline)) {
-        if constexpr (matrixIsArray)
-            return V(a(i, k));
+        if constexpr (S::hasMatrices)
+            return V(asRead<S::kind>(matrices.matrix())(i, k));
         else
-            return V(T(a(i, k)));
+            return V(T(single(i, k)));
     };
     V results[largestSize<Rows>];
     for (std::ptrdiff_t i = 0; i < rows; ++i) {
@@ -276,9 +235,16 @@ template <Sums sums, class V, class S, class Rows, class Terms>
 QORM_KERNEL void multiplyBlocks(const S s, std::ptrdiff_t first, int live, std::ptrdiff_t blocks,
                                 Rows rows, Terms terms) {
     constexpr bool isOneByOne = laneCount<V> == 1;
+    // Lanes are apart from a single matrix, which is read once if its size is known.
+    const auto single = [&] {
+        if constexpr (!S::hasMatrices && !isOneByOne && isFixed<Rows> && isFixed<Terms>)
+            return Held<typename S::T, rows>(s.matrixOf(0), rows);
+        else
+            return s.matrixOf(0);
+    }();
     const auto multiply = [&](std::ptrdiff_t object, int liveLanes) __attribute__((always_inline)) {
         if constexpr (!isOneByOne || sums == Sums::pairs)
-            multiplyLanes<sums, V>(s, object, liveLanes, rows, terms);
+            multiplyLanes<sums, V>(s, single, object, liveLanes, rows, terms);
         else if constexpr (sums == Sums::blocks)
             multiplyOneInBlocks(s, object, true);
         else if constexpr (hasOwnPath<Rows>)
@@ -287,7 +253,7 @@ QORM_KERNEL void multiplyBlocks(const S s, std::ptrdiff_t first, int live, std::
             multiplyOne(s, object);
     };
     // A constant number of live lanes gains something where only vectors are loaded.
-    if constexpr (decltype(s.matrix)::holdsArray || isOneByOne) {
+    if constexpr (S::hasMatrices || isOneByOne) {
         for (std::ptrdiff_t block = 0; block < blocks; ++block)
             multiply(first + block * laneCount<V>, live);
     } else {
@@ -316,18 +282,11 @@ auto guardOf(const S& s, std::ptrdiff_t count) {
 template <class S>
 bool areSourcesApart(const S& s, std::ptrdiff_t count) {
     constexpr int lanes = laneCount<Pack<typename S::T>>;
-    const auto isApart = [&](const auto& operand, Extent extent) {
-        return areApart(spansOf(operand, extent.rows, extent.columns), spansOf(s.dst, 1, s.rows()),
-                        count);
-    };
-    const bool addendIsApart = [&] {
-        if constexpr (isAdded<decltype(s.addend)>)
-            return isApart(s.addend, {1, s.rows()});
-        else
-            return true;
-    }();
-    return addendIsApart && isApart(s.matrix, s.stored) && isApart(s.x, {1, s.terms()}) &&
-           hasDistinctElements(s.dst, 1, s.rows(), lanes);
+    const Spans writes = spansOf(s.dst, 1, s.rows());
+    return withReads(s, [&](const auto&... reads) {
+        return (areApart(reads, writes, count) && ...) &&
+               hasDistinctElements(s.dst, 1, s.rows(), lanes);
+    });
 }
 
 template <class S>
@@ -342,6 +301,32 @@ int costOfLanes(const S& s) {
            qorm::costOfLanes(s.x, 1, s.terms()) + ofAddend + qorm::costOfLanes(s.dst, 1, s.rows());
 }
 
+// One object after the other where columns fit registers. False if there is no such path.
+template <Sums sums, class S>
+bool multiplyInTurn(const S& s, std::ptrdiff_t count) {
+    using T = typename S::T;
+    bool isDone = false;
+    const auto multiply = [&](auto n) {
+        if constexpr (hasSums<sums, decltype(n)> && hasColumns<S, decltype(n)>) {
+            if (mayGoInLanes<S, decltype(n)> && costOfLanes(s) == 0) return;
+            forEachStretch(s, count, n, [&](std::ptrdiff_t begin, std::ptrdiff_t end, bool apart) {
+                if (apart)
+                    multiplyByColumns<sums>(s, begin, end, n);
+                else
+                    multiplyBlocks<sums, T>(s, begin, 1, end - begin, n, n);
+            });
+            isDone = true;
+        }
+    };
+    if (s.rows() == s.terms()) {
+        if (s.rows() == 8)
+            multiply(Fixed<8>());
+        else
+            withStaticSize(s.rows(), multiply);
+    }
+    return isDone;
+}
+
 template <Sums sums = Sums::chain, class S>
 qorStatus multiplySystems(const S& s, std::ptrdiff_t count) {
     using T = typename S::T;
@@ -350,18 +335,17 @@ qorStatus multiplySystems(const S& s, std::ptrdiff_t count) {
         if (std::max(s.rows(), s.terms()) <= mostLaneSize) {
             const auto run = [&](const auto& inBlocks) {
                 return withKnownSquare<D>(s.terms(), s.rows(), [&](auto terms, auto rows) {
-                    constexpr bool isOther =
-                        sums != Sums::chain && hasOwnPath<decltype(rows)> != (sums == Sums::pairs);
-                    if constexpr (isOther)
-                        return qorStatus{qorStatusOk};
-                    else
+                    if constexpr (hasSums<sums, decltype(rows)> && mayGoInLanes<S, decltype(rows)>)
                         return inBlocks(
                             [&]<class V>(std::ptrdiff_t first, int live, std::ptrdiff_t blocks) {
                                 multiplyBlocks<sums, V>(s, first, live, blocks, rows, terms);
                             });
+                    else
+                        return qorStatus{qorStatusOk};
                 });
             };
             const bool known = s.rows() == s.terms() && isUnrolled(s.rows());
+            if (multiplyInTurn<sums>(s, count)) return qorStatusOk;
             if (known && costOfLanes(s) >= leastForScalars)
                 return run([&](const auto& work) { return inScalars<T>(count, work); });
             const auto guard = guardOf(s, count);

@@ -1,29 +1,10 @@
 // Products of small square matrices with contiguous rows: a register holds a row.
 #pragma once
 
-#include "frame/transposition.h"
-#include "frame/vectors.h"
+#include "frame/held_rows.h"
 #include "products/shape.h"
 
 namespace qorm::products {
-
-// The rows of the second operand as the product reads it.
-template <Scalar T, int n>
-struct HeldRows {
-    static constexpr int lanes = lanesFor(n);
-
-    Vector<T, lanes> rows[lanes];
-
-    template <class Matrix>
-    explicit HeldRows(const Matrix& matrix) {
-        for (int k = 0; k < n; ++k) rows[k] = loadVector<T, lanes, n>(matrix(k, 0).address());
-    }
-    template <class Matrix>
-    explicit HeldRows(const Transposed<Matrix>& transposed) : HeldRows(transposed.matrix) {
-        for (int k = n; k < lanes; ++k) rows[k] = Vector<T, lanes>{};
-        transpose(rows);
-    }
-};
 
 // One product. The second operand is read before the first element is written.
 template <int n, class A, class B, class D>

@@ -126,7 +126,7 @@ qorStatus productsInLanes(const A& a, const B& b, const Plain<T>& dst, std::ptrd
         if ((costOfLanes(vectors, 1, len) + ...) >= leastForScalars)
             return run([&](const auto& work) { return inScalars<T>(count, work); });
         const bool apart = (isApart(vectors) && ...);
-        const AllOf guard(guardOf(vectors)...);
+        AllOf guard(guardOf(vectors)...);
         return run(
             [&](const auto& work) { return inManyLanes<Pack<T>>(apart, guard, count, work); });
     };
