@@ -130,6 +130,24 @@ TEST_P(MatrixVectors, overSources) {
     }
 }
 
+// Long lists are looked through stretch by stretch: what one writes, a later one may read.
+TEST_P(MatrixVectors, overSourcesOfLongLists) {
+    if (function.layout != Layout::L) return;
+    Placement placement = {.name = "overlapping far away"};
+    for (const Parameter& source : function.parameters) {
+        if (source.kind != Parameter::source) continue;
+        placement.destinationOn = source.name;
+        for (const int objects : {300, -300}) {
+            placement.behindBy = {.objects = objects};
+            for (const int n : {3, 4, 6, 7, 8}) {
+                const bool isOpenUpdate = function.operation == "Gaxpy" && !source.array;
+                if (isOpenUpdate && isUnrolled(n)) continue;
+                test({sizesOf(function, n, 560), placement});
+            }
+        }
+    }
+}
+
 // Calls large enough for every function's fan-out: any number of threads gives the same bits.
 TEST_P(MatrixVectors, onThreads) {
     if (!function.array) return;

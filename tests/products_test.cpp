@@ -317,6 +317,19 @@ TEST_P(Products, overSources) {
     }
 }
 
+// Long lists are looked through stretch by stretch: what one writes, a later one may read.
+TEST_P(Products, overSourcesOfLongLists) {
+    if (function.layout != Layout::L) return;
+    Placement placement = {.name = "overlapping far away"};
+    for (const char* source : {"Src1", "Src2"}) {
+        placement.destinationOn = source;
+        for (const int objects : {300, -300}) {
+            placement.behindBy = {.objects = objects};
+            for (const int n : {3, 4, 7}) test(function, {n, n, n}, 560, placement);
+        }
+    }
+}
+
 // A list may name an object twice.
 TEST_P(Products, ofListsWithRepetitions) {
     if (function.layout != Layout::L) return;

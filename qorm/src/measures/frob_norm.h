@@ -101,14 +101,13 @@ auto sumOfOne(const Src& src, std::ptrdiff_t object, std::ptrdiff_t width, std::
 }
 
 // Long packed runs have no order of their own, and are summed in blocks.
-inline constexpr std::ptrdiff_t mostInLanes = mostLaneSize * mostLaneSize;
+inline constexpr std::ptrdiff_t longestChain = 6 * 6;
 
 template <class Src>
 bool isSummedInBlocks(const Src& src, std::ptrdiff_t width, std::ptrdiff_t height,
                       const FrobNormRule& rule) {
-    const std::ptrdiff_t most = Src::holdsArray ? mostInLanes : 6 * 6;
     return Src::layout != Layout::P && rule.isTested && src.isContiguous() &&
-           src.contiguous().hasAdjacentRows(width) && width * height > most;
+           src.contiguous().hasAdjacentRows(width) && width * height > longestChain;
 }
 
 // Of an object in each lane.
