@@ -6,6 +6,7 @@
 #pragma once
 
 #include "frame/held_rows.h"
+#include "frame/known_sizes.h"
 #include "frame/overlap.h"
 #include "frame/static_size.h"
 
@@ -37,6 +38,9 @@ template <Kind kind, class Operand>
 Source<kind, Operand> sourceOf(const Operand& operand) {
     return {operand};
 }
+
+template <class... Sources>
+inline constexpr bool areAsStored = !(isTransposed(Sources::kind) || ...);
 
 template <class Op, class D, class... Sources, class Width, class Height>
 [[gnu::always_inline]] inline void combineObjects(const Op& op, const D& dst, Width width,
@@ -72,7 +76,7 @@ template <class Op, class D, class Width, class Height, class... Sources>
 QORM_KERNEL void combineRows(const Op op, const D dst, Width width, Height height,
                              std::ptrdiff_t first, std::ptrdiff_t end, const Sources... sources) {
     using T = typename D::Element;
-    constexpr bool asStored = !(isTransposed(Sources::kind) || ...);
+    constexpr bool asStored = areAsStored<Sources...>;
     for (std::ptrdiff_t n = first; n < end; ++n) {
         const auto d = dst.object(n, width);
         const auto combineInto = [&](const auto&... source) __attribute__((always_inline)) {
@@ -151,47 +155,55 @@ bool isApart(const S& source, const D& dst, std::ptrdiff_t width, std::ptrdiff_t
     return areApart(spansOfRead(source, width, height), spansOf(dst, height, width), count);
 }
 
-// Whether objects of a list go through registers: of constant size, by rows that are loaded whole or by
-// masks.
+// Whether objects go through registers: of constant size, by rows that are loaded whole or by masks.
+// The compiler does as well where strides tell it that nothing is transposed.
 template <class D, class Width, class Height, class... Sources>
 inline constexpr bool goInRegisters = false;
 template <class D, std::ptrdiff_t width, std::ptrdiff_t height, class... Sources>
 inline constexpr bool goInRegisters<D, Fixed<width>, Fixed<height>, Sources...> = [] {
-    using T = typename D::Element;
-    constexpr bool isListOfRows =
-        D::layout == Layout::L && D::hasContiguousRows && (Sources::hasContiguousRows && ...);
-    constexpr bool asStored = !(isTransposed(Sources::kind) || ...);
-    return isListOfRows && (asStored ? hasGathering : rowsFitRegisters<T, width>);
+    constexpr bool haveRows = D::hasContiguousRows && (Sources::hasContiguousRows && ...);
+    if constexpr (areAsStored<Sources...>)
+        return haveRows && D::layout == Layout::L && hasGathering;
+    else
+        return haveRows && rowsFitRegisters<typename D::Element, width>;
 }();
 
 template <class Op, class D, class Width, class Height, class... Sources>
 void combineStrided(const Op& op, const D& dst, Width width, Height height, bool apart,
                     std::ptrdiff_t count, const Sources&... sources) {
-    if constexpr (D::layout == Layout::S) {
-        if (apart) {
-            return combineApart<Op, D, Width, Height, Sources...>(
-                op, dst, dst.base, width, height, count, sources..., sources.operand.base...);
-        }
-    } else if constexpr (goInRegisters<D, Width, Height, Sources...>) {
+    if constexpr (goInRegisters<D, Width, Height, Sources...>) {
         const auto combineStretch = [&](std::ptrdiff_t first, std::ptrdiff_t end, bool areApart) {
             if (areApart)
                 combineRows(op, dst, width, height, first, end, sources...);
             else
-                combineObjects(op, dst, width, height, first, end, sources...);
+                combineObjects(op, dst, sizeOfOne(width), sizeOfOne(height), first, end,
+                               sources...);
         };
+        if (apart) return combineStretch(0, count, true);
         return inStretches(spansOf(dst, height, width), count, combineStretch,
                            spansOfRead(sources, width, height)...);
+    } else if constexpr (D::layout == Layout::S) {
+        if (apart) {
+            return combineApart<Op, D, Width, Height, Sources...>(
+                op, dst, dst.base, width, height, count, sources..., sources.operand.base...);
+        }
     }
     combineObjects(op, dst, width, height, 0, count, sources...);
 }
 
-// work(width, height) with constants for the squares of 3 to 6, and for vectors of 3 to 6.
-template <class Height, class Work>
+// work(width, height) with constants for the squares of 3 to 6, and for vectors of 3 to 6; and for 8
+// where that goes in registers.
+template <class D, class... Sources, class Height, class Work>
 void withKnownExtent(std::ptrdiff_t width, Height height, const Work& work) {
-    if constexpr (isFixed<Height>)
+    if constexpr (isFixed<Height>) {
         withStaticSize(width, [&](auto columns) { work(columns, height); });
-    else
+    } else {
+        if constexpr (goInRegisters<D, Fixed<8>, Fixed<8>, Sources...> &&
+                      !areAsStored<Sources...>) {
+            if (width == 8 && height == 8) return work(Fixed<8>(), Fixed<8>());
+        }
         withStaticSquare(width, height, work);
+    }
 }
 
 // Operands without any gap, of so many elements, that are apart or the same.
@@ -199,6 +211,63 @@ template <class Op, class T, class... Sources>
 void combineRuns(const Op& op, Run<T> dst, std::ptrdiff_t elements, Sources... sources) {
     QORM_INDEPENDENT
     for (std::ptrdiff_t k = 0; k < elements; ++k) dst(k) = op(sources(k)...);
+}
+
+// A single source is repeated for as many objects as fill whole registers whatever their size.
+template <class T>
+inline constexpr std::ptrdiff_t objectsOfPeriod = laneCount<Pack<T>>;
+inline constexpr std::ptrdiff_t mostRepeated = 6 * 6;
+
+template <class D>
+bool isWorthRepeating(std::ptrdiff_t elements, std::ptrdiff_t count) {
+    return elements <= mostRepeated && count > objectsOfPeriod<typename D::Element>;
+}
+
+// The elements of a source for a period of objects: those of an array where they lie.
+template <class S, bool array = isArray(S::kind)>
+struct Periods {
+    using T = std::remove_const_t<typename S::Element>;
+
+    const T* begin;
+    std::ptrdiff_t elements;
+
+    Periods(const S& source, std::ptrdiff_t width, std::ptrdiff_t height)
+        : begin(source.operand.base), elements(width * height) {}
+    Run<const T> from(std::ptrdiff_t object) const { return {begin + object * elements}; }
+};
+
+template <class S>
+struct Periods<S, false> {
+    using T = std::remove_const_t<typename S::Element>;
+
+    T repeated[mostRepeated * objectsOfPeriod<T>];
+
+    Periods(const S& source, std::ptrdiff_t width, std::ptrdiff_t height) {
+        const auto matrix = source.object(0, width, height);
+        T* next = repeated;
+        for (std::ptrdiff_t i = 0; i < height; ++i) {
+            for (std::ptrdiff_t j = 0; j < width; ++j) *next++ = matrix(i, j);
+        }
+        const std::ptrdiff_t period = objectsOfPeriod<T> * width * height;
+        for (const T* from = repeated; next < repeated + period;) *next++ = *from++;
+    }
+    Run<const T> from(std::ptrdiff_t /*object*/) const { return {repeated}; }
+};
+
+// Arrays without any gap and single sources that are apart from the destination.
+template <class Op, class D, class... Sources>
+[[gnu::noinline]] void combinePeriods(const Op& op, const D& dst, std::ptrdiff_t width,
+                                      std::ptrdiff_t height, std::ptrdiff_t count,
+                                      const Sources&... sources) {
+    using T = typename D::Element;
+    const auto combineAll = [&](const auto&... periods) {
+        for (std::ptrdiff_t n = 0; n < count; n += objectsOfPeriod<T>) {
+            const std::ptrdiff_t objects = std::min(count - n, objectsOfPeriod<T>);
+            combineRuns(op, Run<T>{dst.base + n * width * height}, objects * width * height,
+                        periods.from(n)...);
+        }
+    };
+    combineAll(Periods<Sources>(sources, width, height)...);
 }
 
 // The height of vectors is a constant.
@@ -211,34 +280,49 @@ qorStatus combine(const Op& op, const D& dst, std::ptrdiff_t width, Height heigh
         if (count < width * height ||
             !all([](auto& operand) { return operand.hasObjectsSideBySide(); }) ||
             !combinePositions(op, dst, width, height, count, sources...)) {
-            withKnownExtent(width, height, [&](auto columns, auto rows) {
+            withKnownExtent<D, Sources...>(width, height, [&](auto columns, auto rows) {
                 combineObjects(op, dst, columns, rows, 0, count, sources...);
             });
         }
     } else {
-        constexpr bool asStored = !(isTransposed(Sources::kind) || ...);
+        constexpr bool asStored = areAsStored<Sources...>;
         const bool adjacentRows =
             asStored && all([&](auto& operand) { return operand.hasAdjacentRows(width); });
         const auto apart = [&](const auto& source) {
             return isApart(source, dst, width, height, count);
         };
         if constexpr (D::layout == Layout::S) {
-            const auto isApartOrSame = [&](const auto& source) {
-                return source.operand.base == dst.base || apart(source);
+            const std::ptrdiff_t area = width * height;
+            const auto isOneRun = [&](const auto& operand) {
+                return operand.hasAdjacentRows(width) &&
+                       (count == 1 || operand.hasAdjacentObjects(area));
             };
-            const bool isRun =
-                adjacentRows && (count == 1 || all([&](auto& operand) {
-                                     return operand.hasAdjacentObjects(width * height);
-                                 }));
-            if (isRun && (isApartOrSame(sources) && ...)) {
-                using T = typename D::Element;
-                combineRuns(op, Run<T>{dst.base}, width * height * count,
-                            Run<const T>{sources.operand.base}...);
-                return qorStatusOk;
+            const auto bytesOfRun = [&](const auto& operand) {
+                return bytesOf(operand.base, area * count * std::ptrdiff_t{sizeof *operand.base});
+            };
+            const auto isRunBeside = [&](const auto& source) {
+                return !isTransposed(source.kind) && isOneRun(source.operand) &&
+                       (source.operand.base == dst.base ||
+                        !overlap(bytesOfRun(source.operand), bytesOfRun(dst)));
+            };
+            if (isOneRun(dst)) {
+                if ((isRunBeside(sources) && ...)) {
+                    using T = typename D::Element;
+                    combineRuns(op, Run<T>{dst.base}, area * count,
+                                Run<const T>{sources.operand.base}...);
+                    return qorStatusOk;
+                }
+                if constexpr (D::holdsArray && !(isArray(Sources::kind) && ...)) {
+                    if (isWorthRepeating<D>(area, count) &&
+                        ((isArray(Sources::kind) ? isRunBeside(sources) : apart(sources)) && ...)) {
+                        combinePeriods(op, dst, width, height, count, sources...);
+                        return qorStatusOk;
+                    }
+                }
             }
         }
         const bool allApart = (apart(sources) && ...);
-        withKnownExtent(width, height, [&](auto columns, auto rows) {
+        withKnownExtent<D, Sources...>(width, height, [&](auto columns, auto rows) {
             if (adjacentRows)
                 combineStrided(op, dst, area(columns, rows), Fixed<1>(), allApart, count,
                                sources...);

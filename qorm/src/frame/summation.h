@@ -20,11 +20,11 @@ template <bool beginsWithTerm, class V, class Term, class N>
     return sum;
 }
 
-// Four terms in two pairs, the others one at a time.
+// Four terms in two pairs, each added to +0, and the others one at a time. Only -0 differs from +0 + -0,
+// so that one zero serves all four.
 template <class V, class Term, class N>
 [[gnu::always_inline]] inline V sumOfPairs(const Term& p, N terms) {
-    const V zero{};
-    V sum = ((zero + p(0)) + (zero + p(1))) + ((zero + p(2)) + (zero + p(3)));
+    V sum = V{} + ((p(0) + p(1)) + (p(2) + p(3)));
     for (std::ptrdiff_t k = 4; k < terms; ++k) sum = sum + p(k);
     return sum;
 }
@@ -63,17 +63,17 @@ T sumOfLanes(const Vector& l) {
         return (l[0] + l[2]) + (l[1] + l[3]);
 }
 
-// At least a block of terms, each of them a number or a pack, summed in blocks of 8 lanes.
+// At least a block of terms, each of them a number or a pack, summed in blocks of 8 lanes. One zero
+// serves them all, as above.
 template <class V, class Term, class N>
 [[gnu::always_inline]] inline V sumOfBlocksOf8(const Term& p, N terms) {
-    const V zero{};
     V l[8];
-    for (int lane = 0; lane < 8; ++lane) l[lane] = zero + p(lane);
+    for (int lane = 0; lane < 8; ++lane) l[lane] = p(lane);
     std::ptrdiff_t k = 8;
     for (; k + 8 <= terms; k += 8) {
         for (int lane = 0; lane < 8; ++lane) l[lane] = l[lane] + p(k + lane);
     }
-    V sum = sumOfEight(l);
+    V sum = V{} + sumOfEight(l);
     for (; k < terms; ++k) sum = sum + p(k);
     return sum;
 }

@@ -106,6 +106,16 @@ template <int n, int objects, bool packed, class A, class B, class D>
                                                       from(dst), blocks);
 }
 
+template <std::ptrdiff_t n, class A, class B, class D>
+[[gnu::noinline]] void multiplyAdjacentRows(const A src1, const B src2, const D dst,
+                                            std::ptrdiff_t begin, std::ptrdiff_t end) {
+    for (std::ptrdiff_t object = begin; object < end; ++object) {
+        multiplyRows<n>(withAdjacentRows<n>(src1.object(object)),
+                        withAdjacentRows<n>(src2.object(object)),
+                        withAdjacentRows<n>(dst.object(object, n)));
+    }
+}
+
 template <class N, class A, class B, class D>
 [[gnu::noinline]] void multiplyObjects(const A src1, const B src2, const D dst, const Shape shape,
                                        N n, std::ptrdiff_t begin, std::ptrdiff_t end) {
@@ -120,16 +130,18 @@ template <class N, class A, class B, class D>
 template <class N, class A, class B, class D>
 void multiplyApart(const A& src1, const B& src2, const D& dst, const Shape& shape, N n,
                    std::ptrdiff_t begin, std::ptrdiff_t end, bool inBlocks) {
+    using T = typename D::Element;
     if constexpr (isFixed<N> && D::hasContiguousRows) {
-        if constexpr (fitsRegister<typename D::Element, n>) {
-            if (haveAdjacentRows(src1, src2, dst, n)) {
-                constexpr int objects = densestBlock<typename D::Element, n>();
+        if (haveAdjacentRows(src1, src2, dst, n)) {
+            if constexpr (fitsRegister<T, n>) {
+                constexpr int objects = densestBlock<T, n>();
                 const bool packed = inBlocks && arePacked(src1, src2, dst, n);
                 const std::ptrdiff_t blocks = packed ? (end - begin) / objects : 0;
                 const std::ptrdiff_t rest = begin + blocks * objects;
                 multiplyDensely<n, objects, true>(src1, src2, dst, begin, blocks);
-                multiplyDensely<n, 1, false>(src1, src2, dst, rest, end - rest);
-                return;
+                return multiplyDensely<n, 1, false>(src1, src2, dst, rest, end - rest);
+            } else if constexpr (rowFitsRegister<T, N>) {
+                return multiplyAdjacentRows<n>(src1, src2, dst, begin, end);
             }
         }
     }

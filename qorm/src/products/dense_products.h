@@ -94,9 +94,9 @@ private:
 
 // The terms of an operand in a given block: a single operand's are permuted once.
 template <class Block, bool second, bool array, class At>
-auto termsOf(const At& at) {
+auto termsOf(At at) {
     if constexpr (array) {
-        return [&at](std::ptrdiff_t block) {
+        return [at](std::ptrdiff_t block) {
             return [from = at(block)](auto which, auto k) __attribute__((always_inline)) {
                 return Block::template term<second, which, k>(from);
             };
@@ -109,10 +109,9 @@ auto termsOf(const At& at) {
     }
 }
 
-// Blocks that begin at at1(block), at2(block) and atDst(block).
+// Blocks that begin at at1(block), at2(block) and atDst(block), which come by value as operands do.
 template <int n, int objects, Kind kind1, Kind kind2, class At1, class At2, class AtDst>
-void multiplyDenseBlocks(const At1& at1, const At2& at2, const AtDst& atDst,
-                         std::ptrdiff_t blocks) {
+void multiplyDenseBlocks(At1 at1, At2 at2, AtDst atDst, std::ptrdiff_t blocks) {
     using T = std::remove_pointer_t<decltype(atDst(0))>;
     using Block = DenseBlock<T, n, objects, kind1, kind2>;
     const auto a = termsOf<Block, false, isArray(kind1)>(at1);

@@ -301,12 +301,20 @@ int costOfLanes(const S& s) {
            qorm::costOfLanes(s.x, 1, s.terms()) + ofAddend + qorm::costOfLanes(s.dst, 1, s.rows());
 }
 
-// One object after the other where columns fit registers. False if there is no such path.
+// By columns where they fit registers, one object after the other or several at a time. False if there
+// is no such path.
 template <Sums sums, class S>
 bool multiplyInTurn(const S& s, std::ptrdiff_t count) {
     using T = typename S::T;
     bool isDone = false;
     const auto multiply = [&](auto n) {
+        if constexpr (hasSums<sums, decltype(n)> && hasRunsOfVectors<S, decltype(n)>) {
+            if (areRunsOfVectors(s, count, n)) {
+                multiplyRunsOfVectors<sums>(s, count, n);
+                isDone = true;
+                return;
+            }
+        }
         if constexpr (hasSums<sums, decltype(n)> && hasColumns<S, decltype(n)>) {
             if (mayGoInLanes<S, decltype(n)> && costOfLanes(s) == 0) return;
             forEachStretch(s, count, n, [&](std::ptrdiff_t begin, std::ptrdiff_t end, bool apart) {

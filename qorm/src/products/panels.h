@@ -2,7 +2,7 @@
 // loaded of the second operand.
 #pragma once
 
-#include "frame/runs.h"
+#include "frame/lane_runs.h"
 #include "products/shape.h"
 
 #include <algorithm>
@@ -13,6 +13,11 @@ template <class Matrix>
 inline constexpr bool rowsAreRuns = false;
 template <class T>
 inline constexpr bool rowsAreRuns<StridedMatrix<T, true>> = true;
+
+template <class Matrix>
+inline constexpr bool columnsAreRuns = false;
+template <class Matrix>
+inline constexpr bool columnsAreRuns<Transposed<Matrix>> = rowsAreRuns<Matrix>;
 
 // `live` elements of row i from column j on.
 template <class V, class Matrix>
@@ -72,6 +77,20 @@ void addTermsOfAllRows(const A& a, const B& b, const D& d, std::ptrdiff_t rows, 
     if (i < rows) addTerms<1, V>(a, b, d, i, j, live, firstTerm, endTerm);
 }
 
+// Rows first .. end - 1 of the second operand, `live` elements of each from column j on.
+template <class V, class B>
+void collectPanel(const B& b, std::ptrdiff_t first, std::ptrdiff_t end, std::ptrdiff_t j, int live,
+                  V* panel) {
+    if constexpr (columnsAreRuns<B>) {
+        loadRuns<LaneType<V>>(
+            [&](int lane) { return b(first, j + std::min(lane, live - 1)).address(); },
+            static_cast<int>(end - first),
+            [&](std::ptrdiff_t k) -> auto& { return panel[k].lanes[0]; });
+    } else {
+        for (std::ptrdiff_t k = first; k < end; ++k) panel[k - first] = loadRow<V>(b, k, j, live);
+    }
+}
+
 // One product, whose destination is apart from both operands.
 template <class T, class A, class B, class D>
 void multiplyByPanels(const A& a, const B& b, const D& d, const Shape& shape) {
@@ -88,9 +107,7 @@ void multiplyByPanels(const A& a, const B& b, const D& d, const Shape& shape) {
             V panel[length];
             for (std::ptrdiff_t first = 0; first < shape.inner; first += length) {
                 const std::ptrdiff_t end = std::min(first + length, shape.inner);
-                for (std::ptrdiff_t k = first; k < end; ++k) {
-                    panel[k - first] = loadRow<V>(b, k, j, live);
-                }
+                collectPanel(b, first, end, j, live, panel);
                 const auto row = [&](std::ptrdiff_t k) { return panel[k - first]; };
                 addTermsOfAllRows<V>(a, row, d, shape.rows, j, live, first, end);
             }

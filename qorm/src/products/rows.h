@@ -6,6 +6,16 @@
 
 namespace qorm::products {
 
+// The stride of adjacent rows as a constant, which saves the registers that hold its multiples.
+template <std::ptrdiff_t n, class T>
+StridedMatrix<T, true> withAdjacentRows(const StridedMatrix<T, true>& matrix) {
+    return {matrix.base, n * std::ptrdiff_t{sizeof(T)}, matrix.stride2};
+}
+template <std::ptrdiff_t n, class Matrix>
+Transposed<Matrix> withAdjacentRows(const Transposed<Matrix>& matrix) {
+    return {withAdjacentRows<n>(matrix.matrix)};
+}
+
 // One product. The second operand is read before the first element is written.
 template <int n, class A, class B, class D>
 [[gnu::always_inline]] inline void multiplyRows(const A& a, const B& b, const D& d) {
