@@ -61,7 +61,7 @@ template <class V, class Matrix, class B, class X, class N, class Shared>
     } else {
         LoadedVector<V, N> solution;
         solution.load(b, first, live, n);
-        if constexpr (!Matrix::holdsArray && hasOwnPath<N>) {
+        if constexpr (!Matrix::holdsArray && isFixed<N>) {
             substituteCholesky<V>(shared, solution, solution, n);
         } else if constexpr (!Matrix::holdsArray) {
             substituteCholesky<V>(matrix.object(0, n), solution, solution, n);
@@ -83,14 +83,15 @@ qorStatus solveCholesky(const Matrix& matrix, const B& b, const X& x, Size size,
         return guardOfSystems(matrix, {n, n}, sharingOf(n, Sharing::none), b,
                               sharingOf(n, Sharing::places), x, count.value);
     };
-    return withKnownSize<X>(n, [&](auto fixed) {
+    return withSystemSize(matrix, {n, n}, x, count.value, [&](auto fixed) {
         const auto solveAll = [&](const auto& shared) {
-            return onAllObjects<LanesOf<X, decltype(fixed)>, X::holdsArray>(
+            return onAllObjects<LanesOfSystems<Matrix, X, LanesOf<X, decltype(fixed)>>,
+                                X::holdsArray>(
                 guard, count.value, [&]<class V>(std::ptrdiff_t first, int live) {
                     return solveCholeskyBlock<V>(matrix, b, x, first, live, fixed, shared);
                 });
         };
-        if constexpr (!Matrix::holdsArray && hasOwnPath<decltype(fixed)>)
+        if constexpr (!Matrix::holdsArray && isFixed<decltype(fixed)>)
             return solveAll(loadLowerTriangle<T>(matrix, 0, 1, fixed));
         else
             return solveAll(nullptr);

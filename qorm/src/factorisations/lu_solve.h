@@ -130,7 +130,7 @@ LuFactors<T, N> loadFactors(const Matrix& matrix, Run<const std::int32_t> index,
         factors.order[i] = index(i);
         for (std::ptrdiff_t j = 0; j < n; ++j) factors.matrix()(i, j) = rows(i, j);
     }
-    factors.invertPivots(n);
+    if constexpr (hasOwnPath<N>) factors.invertPivots(n);
     return factors;
 }
 
@@ -183,7 +183,7 @@ template <class V, class Matrix, class B, class X, class N, class Shared>
             if constexpr (Matrix::holdsArray) {
                 substituteLu<V>(loadFactors<V>(matrix.object(first, n), index, n), ordered,
                                 solution, n);
-            } else if constexpr (hasOwnPath<N>) {
+            } else if constexpr (isFixed<N>) {
                 const Run<const std::int32_t> order = {shared.order};
                 substituteLu<V>(shared, OrderedElements{right, order}, solution, n);
             } else {
@@ -218,14 +218,15 @@ qorStatus solveLu(const Matrix& matrix, const Plain<const std::int32_t>& pivots,
         return guardOfSystems(matrix, {n, n}, sharingOf(n, Sharing::none), b,
                               sharingOf(n, Sharing::none), x, count.value);
     };
-    return withKnownSize<X>(n, [&](auto fixed) {
+    return withSystemSize(matrix, {n, n}, x, count.value, [&](auto fixed) {
         const auto solveAll = [&](const auto& shared) {
-            return onAllObjects<LuLanes<X, decltype(fixed)>, X::holdsArray>(
+            return onAllObjects<LanesOfSystems<Matrix, X, LuLanes<X, decltype(fixed)>>,
+                                X::holdsArray>(
                 guard, count.value, [&]<class V>(std::ptrdiff_t first, int live) {
                     return solveLuBlock<V>(matrix, pivots, b, x, first, live, fixed, shared);
                 });
         };
-        if constexpr (!Matrix::holdsArray && hasOwnPath<decltype(fixed)>)
+        if constexpr (!Matrix::holdsArray && isFixed<decltype(fixed)>)
             return solveAll(loadFactors<T>(matrix.object(0, n), pivots.object(0), fixed));
         else
             return solveAll(nullptr);

@@ -135,7 +135,7 @@ template <class V, class Matrix, class T, class B, class X, class Width, class H
         LoadedVector<V, Height> column;
         LoadedVector<V, Width> solution;
         column.load(b, first, live, height);
-        if constexpr (!Matrix::holdsArray && hasOwnPath<Width>) {
+        if constexpr (!Matrix::holdsArray && isFixed<Width>) {
             solveFactored<V>(shared, column, solution, width, height);
         } else if constexpr (!Matrix::holdsArray) {
             const auto a = matrix.object(0, width);
@@ -155,23 +155,30 @@ template <class Matrix, class T, class B, class X>
 qorStatus solveQr(const Matrix& matrix, const Scratch<T>& scratch, const B& b, const X& x,
                   Size width, Size height, Count count = Count(1)) {
     const Extent extent = {height.value, width.value};
-    const std::ptrdiff_t square = extent.rows == extent.columns ? extent.rows : 0;
+    const bool isSquare = extent.rows == extent.columns;
     const auto guard = [&] {
-        return guardOfSystems(matrix, extent, sharingOf(square, Sharing::none), b, Sharing::any, x,
-                              count.value);
+        return guardOfSystems(matrix, extent, sharingOf(isSquare ? extent.rows : 0, Sharing::none),
+                              b, Sharing::any, x, count.value);
     };
-    return withKnownSquare<X>(extent.columns, extent.rows, [&](auto columns, auto rows) {
+    const auto solveSized = [&](auto columns, auto rows) {
         const auto solveAll = [&](const auto& shared) {
-            return onAllObjects<LanesOf<X, decltype(rows)>, X::holdsArray>(
+            return onAllObjects<LanesOfSystems<Matrix, X, LanesOf<X, decltype(rows)>>,
+                                X::holdsArray>(
                 guard, count.value, [&]<class V>(std::ptrdiff_t first, int live) {
                     return solveQrBlock<V>(matrix, scratch, b, x, first, live, columns, rows,
                                            shared);
                 });
         };
-        if constexpr (!Matrix::holdsArray && hasOwnPath<decltype(rows)>)
+        if constexpr (!Matrix::holdsArray && isFixed<decltype(rows)>)
             return solveAll(FactorsAndScales<T, decltype(rows)>(matrix, rows));
         else
             return solveAll(nullptr);
+    };
+    return withSystemSize(matrix, extent, x, count.value, [&](auto n) {
+        if constexpr (isFixed<decltype(n)>)
+            return solveSized(n, n);
+        else
+            return solveSized(extent.columns, extent.rows);
     });
 }
 

@@ -1,4 +1,4 @@
-// Squares times vectors, y = Σₖ x(k)·A(:,k): a register holds a column, or the columns of several objects.
+// Squares times vectors, y = Σₖ x(k)·A(:,k): a register holds a column, or those of several objects.
 #pragma once
 
 #include "frame/held_rows.h"
