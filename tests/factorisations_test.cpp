@@ -248,7 +248,7 @@ TEST_P(Factorisations, resultsOverOtherSources) {
                                          .shift = 1,
                                          .destinationOn = replaceable(function),
                                          .behindBy = step};
-            for (const int n : {1, 2, 3, 4, 5, 6, 7}) {
+            for (const int n : {1, 2, 3, 4, 5, 6, 7, 8}) {
                 // Here an element may be stored while others are still to be read.
                 const bool isOpen = function.operation == "CholeskyDecomp" && isUnrolled(n);
                 if (isOpen && step.objects == 0) continue;
@@ -258,6 +258,21 @@ TEST_P(Factorisations, resultsOverOtherSources) {
                 Input* const special = function.operation == "CholeskyDecomp" ? definite : dense;
                 test({.size = n, .count = 35, .placement = placement, .special = special});
             }
+        }
+    }
+}
+
+// Solutions may be written over the one matrix of all systems, which the next ones are solved by.
+TEST_P(Factorisations, solutionsOverTheirMatrix) {
+    if (factorises(function) || !function.array || function.parameters[0].array) return;
+    for (const auto order : {Placement::byRows, Placement::byPosition}) {
+        for (const int elements : {0, 1, 9}) {
+            const Placement placement = {.name = "over the matrix",
+                                         .order = order,
+                                         .destinationOn = "Src1",
+                                         .behindBy = {.elements = elements}};
+            for (const int n : {2, 7, 8, 9})
+                test({.size = n, .count = 35, .placement = placement, .special = dense});
         }
     }
 }

@@ -85,8 +85,8 @@ struct Size {
     int width;
     int height;
 };
-constexpr Size sizes[] = {{1, 1}, {2, 2}, {3, 3}, {4, 4}, {5, 5}, {6, 6},
-                          {7, 7}, {1, 5}, {3, 4}, {4, 3}, {2, 5}, {67, 1}};
+constexpr Size sizes[] = {{1, 1}, {2, 2}, {3, 3}, {4, 4}, {5, 5}, {6, 6}, {7, 7},
+                          {8, 8}, {1, 5}, {3, 4}, {4, 3}, {2, 5}, {67, 1}};
 
 class Sums : public testing::TestWithParam<Function> {};
 
@@ -120,6 +120,31 @@ TEST_P(Sums, inPlace) {
                       {"height", size.height},
                       {"count", function.array ? 50 : 1}},
                      placement, source.name);
+            }
+        }
+    }
+}
+
+// The destination begins on a source, or some elements or objects from there.
+TEST_P(Sums, overSources) {
+    const Function& function = GetParam();
+    for (const Parameter& source : function.parameters) {
+        if (source.kind != Parameter::source) continue;
+        for (Placement placement :
+             {Placement{.name = "over a source"}, Placement{.name = "rows apart", .rowGap = 1},
+              Placement{.name = "side by side", .order = Placement::byPosition}}) {
+            placement.destinationOn = source.name;
+            for (const Placement::Step& step : {Placement::Step{},
+                                                {.elements = 1},
+                                                {.elements = -1},
+                                                {.objects = 1},
+                                                {.objects = -1}}) {
+                placement.behindBy = step;
+                for (const int n : {3, 4, 8}) {
+                    test(function,
+                         {{"width", n}, {"height", n}, {"count", function.array ? 35 : 1}},
+                         placement);
+                }
             }
         }
     }
