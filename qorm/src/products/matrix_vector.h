@@ -66,7 +66,7 @@ constexpr Form<MatrixVectorMeasure> formOfMatrixVector(Kind matrix, Kind vector,
 
 // One object, exactly as the contract tells where operands overlap. With an addend all sums are held,
 // and written together.
-template <class S, class N>
+template <Sums order, class S, class N>
 void multiplyOneKnown(const S& s, std::ptrdiff_t object, N n) {
     using T = typename S::T;
     const auto a = s.matrixOf(object);
@@ -75,7 +75,7 @@ void multiplyOneKnown(const S& s, std::ptrdiff_t object, N n) {
     x.load(s.x, object, 1, n);
     T sums[n];
     for (std::ptrdiff_t i = 0; i < n; ++i) {
-        sums[i] = sumOfChain<true, T>([&](std::ptrdiff_t k) { return T(a(i, k)) * x(k); }, n);
+        sums[i] = sumInLanes<order, T>([&](std::ptrdiff_t k) { return T(a(i, k)) * x(k); }, n);
         if constexpr (isAdded<decltype(s.addend)>)
             sums[i] = sums[i] + T(vectorOf(s.addend, object, n)(i));
         else
@@ -243,12 +243,12 @@ QORM_KERNEL void multiplyBlocks(const S s, std::ptrdiff_t first, int live, std::
             return s.matrixOf(0);
     }();
     const auto multiply = [&](std::ptrdiff_t object, int liveLanes) __attribute__((always_inline)) {
-        if constexpr (!isOneByOne || sums == Sums::pairs)
+        if constexpr (!isOneByOne)
             multiplyLanes<sums, V>(s, single, object, liveLanes, rows, terms);
         else if constexpr (sums == Sums::blocks)
             multiplyOneInBlocks(s, object, true);
         else if constexpr (hasOwnPath<Rows>)
-            multiplyOneKnown(s, object, rows);
+            multiplyOneKnown<sums>(s, object, rows);
         else
             multiplyOne(s, object);
     };
@@ -364,7 +364,7 @@ qorStatus multiplySystems(const S& s, std::ptrdiff_t count) {
     } else {
         if (s.rows() == s.terms() && isUnrolled(s.rows())) {
             return withStaticSize(s.rows(), [&](auto n) {
-                if constexpr (isFixed<decltype(n)>) multiplyOneKnown(s, 0, n);
+                if constexpr (isFixed<decltype(n)>) multiplyOneKnown<sums>(s, 0, n);
                 return qorStatus{qorStatusOk};
             });
         }
