@@ -156,14 +156,14 @@ bool isApart(const S& source, const D& dst, std::ptrdiff_t width, std::ptrdiff_t
 }
 
 // Whether objects go through registers: of constant size, by rows that are loaded whole or by masks.
-// The compiler does as well where strides tell it that nothing is transposed.
+// By strides the compiler does as well with small ones that are read as stored.
 template <class D, class Width, class Height, class... Sources>
 inline constexpr bool goInRegisters = false;
 template <class D, std::ptrdiff_t width, std::ptrdiff_t height, class... Sources>
 inline constexpr bool goInRegisters<D, Fixed<width>, Fixed<height>, Sources...> = [] {
     constexpr bool haveRows = D::hasContiguousRows && (Sources::hasContiguousRows && ...);
     if constexpr (areAsStored<Sources...>)
-        return haveRows && D::layout == Layout::L && hasGathering;
+        return haveRows && hasGathering && (D::layout == Layout::L || width == 8);
     else
         return haveRows && rowsFitRegisters<typename D::Element, width>;
 }();
@@ -198,8 +198,7 @@ void withKnownExtent(std::ptrdiff_t width, Height height, const Work& work) {
     if constexpr (isFixed<Height>) {
         withStaticSize(width, [&](auto columns) { work(columns, height); });
     } else {
-        if constexpr (goInRegisters<D, Fixed<8>, Fixed<8>, Sources...> &&
-                      !areAsStored<Sources...>) {
+        if constexpr (goInRegisters<D, Fixed<8>, Fixed<8>, Sources...>) {
             if (width == 8 && height == 8) return work(Fixed<8>(), Fixed<8>());
         }
         withStaticSquare(width, height, work);

@@ -122,28 +122,44 @@ struct PermutedTranspose {
     }
 };
 
-// Square tiles of as many rows as a register has lanes.
-template <class T>
+// The first lanes of a vector, or all of a shorter one over and over.
+template <class To, class From, int... lane>
+[[gnu::always_inline]] inline To resized(const From& vector, std::integer_sequence<int, lane...>) {
+    constexpr int lanes = sizeof vector / sizeof vector[0];
+    return __builtin_shufflevector(vector, vector, lane % lanes...);
+}
+
+// Square tiles of so many rows and columns.
+template <int side, class T>
 void transposeByTiles(const StridedMatrix<const T, true>& from, const StridedMatrix<T, true>& to,
                       const Extent& result) {
-    constexpr std::ptrdiff_t lanes = laneCount<Pack<T>>;
-    for (std::ptrdiff_t j = 0; j < result.columns; j += lanes) {
-        const std::ptrdiff_t sourceRows = std::min(lanes, result.columns - j);
-        for (std::ptrdiff_t i = 0; i < result.rows; i += lanes) {
-            const int sourceColumns = static_cast<int>(std::min(lanes, result.rows - i));
-            Pack<T> tile[lanes];
-            for (std::ptrdiff_t row = 0; row < lanes; ++row) {
-                const T* const begin = from(j + std::min(row, sourceRows - 1), i).address();
-                tile[row] = sourceColumns == lanes ? loadRun(begin) : loadRun(begin, sourceColumns);
-            }
-            transposeRegisters(reinterpret_cast<Register<T>(&)[lanes]>(tile));
-            for (std::ptrdiff_t row = 0; row < sourceColumns; ++row) {
-                T* const begin = to(i + row, j).address();
-                if (sourceRows == lanes)
-                    storeRun(begin, tile[row]);
-                else
-                    storeRun(begin, tile[row], static_cast<int>(sourceRows));
-            }
+    constexpr int lanes = laneCount<Pack<T>>;
+    for (std::ptrdiff_t j = 0; j < result.columns; j += side) {
+        const int sourceRows = static_cast<int>(std::min<std::ptrdiff_t>(side, result.columns - j));
+        for (std::ptrdiff_t i = 0; i < result.rows; i += side) {
+            const int sourceColumns =
+                static_cast<int>(std::min<std::ptrdiff_t>(side, result.rows - i));
+            Vector<T, side> tile[side];
+            forEachConstant(
+                upTo<side>, [&](auto row) __attribute__((always_inline)) {
+                    const T* const begin =
+                        from(j + std::min<int>(row, sourceRows - 1), i).address();
+                    const Pack<T> run =
+                        sourceColumns == lanes ? loadRun(begin) : loadRun(begin, sourceColumns);
+                    tile[row] = resized<Vector<T, side>>(run.lanes[0], upTo<side>);
+                });
+            transposeRegisters(tile);
+            forEachConstant(
+                upTo<side>, [&](auto row) __attribute__((always_inline)) {
+                    if (row >= sourceColumns) return;
+                    T* const begin = to(i + row, j).address();
+                    Pack<T> run;
+                    run.lanes[0] = resized<Register<T>>(tile[row], upTo<lanes>);
+                    if (sourceRows == lanes)
+                        storeRun(begin, run);
+                    else
+                        storeRun(begin, run, sourceRows);
+                });
         }
     }
 }
@@ -153,7 +169,9 @@ template <class T, class N>
                                                  const StridedMatrix<T, true>& to,
                                                  const Extent& result, bool adjacentRows, N n,
                                                  const std::optional<PermutedTranspose<T>>& small) {
+    constexpr int lanes = laneCount<Pack<T>>;
     constexpr std::ptrdiff_t leastForTiles = 8;
+    const std::ptrdiff_t shorterSide = std::min(result.rows, result.columns);
     if constexpr (isFixed<N>) {
         if constexpr (isTransposedByGathering<T, n> && n * n <= laneCount<Pack<T>>) {
             if (adjacentRows) return transposePacked<T, n, 1>(from.base, to.base);
@@ -170,8 +188,10 @@ template <class T, class N>
         }
     } else if (adjacentRows && small) {
         (*small)(from.base, to.base);
-    } else if (std::min(result.rows, result.columns) >= leastForTiles) {
-        transposeByTiles(from, to, result);
+    } else if (shorterSide >= leastForTiles) {
+        transposeByTiles<lanes>(from, to, result);
+    } else if (hasGathering && shorterSide > 1) { // by masks
+        transposeByTiles<std::min(lanes, 8)>(from, to, result);
     } else {
         moveObjectInOrder(Transposed{from}, to, result, false);
     }
