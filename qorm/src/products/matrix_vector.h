@@ -304,7 +304,7 @@ int costOfLanes(const S& s) {
 // By columns where they fit registers, one object after the other or several at a time. False if there
 // is no such path.
 template <Sums sums, class S>
-bool multiplyInTurn(const S& s, std::ptrdiff_t count) {
+bool multiplyInColumns(const S& s, std::ptrdiff_t count) {
     using T = typename S::T;
     bool isDone = false;
     const auto multiply = [&](auto n) {
@@ -353,7 +353,7 @@ qorStatus multiplySystems(const S& s, std::ptrdiff_t count) {
                 });
             };
             const bool known = s.rows() == s.terms() && isUnrolled(s.rows());
-            if (multiplyInTurn<sums>(s, count)) return qorStatusOk;
+            if (multiplyInColumns<sums>(s, count)) return qorStatusOk;
             if (known && costOfLanes(s) >= leastForScalars)
                 return run([&](const auto& work) { return inScalars<T>(count, work); });
             const auto guard = guardOf(s, count);
